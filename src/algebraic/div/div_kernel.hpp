@@ -1,0 +1,49 @@
+// a / b for one element: one division, and a search for the zero divisor.
+//
+// Special    A zero divisor under a finite dividend is a singularity, 0/0 included.
+//            In double precision the divisor is looked at again after the store. Where the
+//            destination is the divisor's array, what it finds is the quotient: a quotient of 0
+//            or NaN counts as a zero divisor then, and the infinity of 1/0 does not.
+#pragma once
+
+#include "frame/frame.hpp"
+
+namespace dakvm::div {
+using namespace x87;
+
+template <class T>
+struct Table {
+  T zero;  // what a divisor must not be
+};
+
+template <class T>
+struct Kernel;
+
+template <>
+struct Kernel<double> {
+  DAKVM_INLINE static Status apply(const Table<double>& t, const double* a, const double* b,
+                                   double* r) {
+    const bool finite = Bits<double>::read(a).is_finite() & Bits<double>::read(b).is_finite();
+    *r = static_cast<double>(Ext{*a} / *b);
+    const auto again = Bits<double>::read(b);
+    const bool zero_or_nan = again.is_nan() | equals_zero(t, again);
+    return finite & zero_or_nan ? Status::singularity : Status::ok;
+  }
+
+ private:
+  DAKVM_INLINE static bool equals_zero(const Table<double>& t, Bits<double> bits) {
+    const auto zero = Bits<double>::read(&t.zero);
+    return bits.magnitude() == zero.high && bits.low == zero.low;
+  }
+};
+
+template <>
+struct Kernel<float> {
+  DAKVM_INLINE static Status apply(const Table<float>&, const float* a, const float* b, float* r) {
+    const bool singular = Bits<float>::read(a).is_finite() & Bits<float>::read(b).is_zero();
+    *r = static_cast<float>(Ext{*a} / *b);
+    return singular ? Status::singularity : Status::ok;
+  }
+};
+
+}  // namespace dakvm::div

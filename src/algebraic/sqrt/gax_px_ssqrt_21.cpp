@@ -1,0 +1,14 @@
+// daksSqrt_32f_A21: sqrt(x) over an array, single precision, 21-bit grade.
+#include "algebraic/sqrt/sqrt_kernel.hpp"
+
+namespace {
+constexpr char _GAX_THISFUNC_NAME[] = "";
+constexpr dakvm::sqrt::Table _gaxdSqrtHATab = {
+#include "algebraic/sqrt/sqrt_ha_64f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksSqrt_32f_A21(const float* src, float* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::sqrt::Kernel<float>>(src, dst, len, _gaxdSqrtHATab,
+                                                       _GAX_THISFUNC_NAME);
+}
