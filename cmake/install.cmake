@@ -1,1 +1,1 @@
-# placeholder
+# filled in by the install work
