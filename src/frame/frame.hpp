@@ -107,7 +107,7 @@ class Report {
   Status last() const { return last_; }
 
  private:
-  const Arrays& arrays_;
+  const Arrays arrays_;  // a copy, so that the walk's own pointers can live in registers
   const char* name_;
   Status last_ = Status::ok;
 };
@@ -156,8 +156,8 @@ DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len
 
 // Kept whole and apart: the grades that share a kernel share its one machine code.
 template <class Kernel, class T, int sources, int destinations, class Context>
-[[gnu::noinline, gnu::noclone]] int32_t run(const Arrays<T, sources, destinations>& arrays,
-                                            int32_t len, const Context& context, const char* name) {
+[[gnu::noinline, gnu::noclone]] int32_t run(Arrays<T, sources, destinations> arrays, int32_t len,
+                                            const Context& context, const char* name) {
   if (len < 1) return DAKVM_STATUS_SIZE_ERR;
   if (arrays.any_null()) return DAKVM_STATUS_NULL_PTR_ERR;
   Report<T, Arrays<T, sources, destinations>> report(arrays, name);

@@ -19,8 +19,11 @@ struct Bits<double> {
   static constexpr int fraction_bits = 20;  // those in the high word
 
   DAKVM_INLINE static Bits read(const double* number) {
+    // Word by word: g++ keeps a whole copied record in memory.
+    const auto* bytes = reinterpret_cast<const char*>(number);
     Bits bits;
-    __builtin_memcpy(&bits, number, sizeof bits);
+    __builtin_memcpy(&bits.low, bytes, sizeof bits.low);
+    __builtin_memcpy(&bits.high, bytes + sizeof bits.low, sizeof bits.high);
     return bits;
   }
 
@@ -63,23 +66,21 @@ struct Bits<float> {
 // The low word of a stored sum with a shifter: an integer in two's complement.
 DAKVM_INLINE uint32_t low_word(const double& stored) { return Bits<double>::read(&stored).low; }
 
-// The double with these words. It is written in two halves: load it a stage later, or the load
-// waits for both stores to leave the processor.
-DAKVM_INLINE double from_words(uint32_t high, uint32_t low) {
+// Writes a number word by word. A double that is written in two halves and loaded at once waits for
+// both stores to leave the processor: load it a stage later.
+DAKVM_INLINE void put_words(double& number, uint32_t high, uint32_t low) {
   const Bits<double> bits{low, high};
-  double number;
   __builtin_memcpy(&number, &bits, sizeof number);
-  return number;
 }
 
-DAKVM_INLINE float from_word(uint32_t word) {
-  float number;
+DAKVM_INLINE void put_word(float& number, uint32_t word) {
   __builtin_memcpy(&number, &word, sizeof number);
-  return number;
 }
 
 // 2^(biased - 1023), for biased in [1, 2046]; of larger numbers the low 11 bits count.
-DAKVM_INLINE double power_of_two(uint32_t biased) { return from_words((biased & 0x7ff) << 20, 0); }
+DAKVM_INLINE void put_power_of_two(double& number, uint32_t biased) {
+  put_words(number, (biased & 0x7ff) << 20, 0);
+}
 
 // A number returned in the register where its type is returned, without the load that would raise
 // invalid for a signalling NaN: on i386 that register is st(0), filled from an 80-bit image.
@@ -123,8 +124,16 @@ DAKVM_INLINE float as_returned(Bits<float> bits) {
   return detail::load_image<float>(bits.is_negative(), bits.exponent(), 127, 0xff, fraction);
 }
 #else
-DAKVM_INLINE double as_returned(Bits<double> bits) { return from_words(bits.high, bits.low); }
-DAKVM_INLINE float as_returned(Bits<float> bits) { return from_word(bits.word); }
+DAKVM_INLINE double as_returned(Bits<double> bits) {
+  double number;
+  put_words(number, bits.high, bits.low);
+  return number;
+}
+DAKVM_INLINE float as_returned(Bits<float> bits) {
+  float number;
+  put_word(number, bits.word);
+  return number;
+}
 #endif
 
 }  // namespace dakvm::x87

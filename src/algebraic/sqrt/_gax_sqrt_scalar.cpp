@@ -30,8 +30,9 @@ constexpr double dbScaledSqrt[2] = {1.414213562373095e-21, 2e-21};
 
 // About 1/sqrt(x), for a positive normal number.
 DAKVM_INLINE Ext reciprocal_root(Bits<double> x) {
-  const double m = opaque(from_words((x.high & 0xfffff) | 0x3ff00000, x.low));
-  const double scale = opaque(from_words(0x5fe00000 - (x.high >> 1 & 0x7ff00000), 0));
+  double m, scale;
+  put_words(m, (x.high & 0xfffff) | 0x3ff00000, x.low);
+  put_words(scale, 0x5fe00000 - (x.high >> 1 & 0x7ff00000), 0);
   const uint32_t j = x.high >> 13 & 0x7f;
   const Ext y = (Ext{dsqrt_dwA2[j]} * m + dsqrt_dwA1[j]) * m + dsqrt_dwA0[j];
   return y * scale * dsqrt_dbSqrt[x.high >> 20 & 1];
@@ -52,13 +53,16 @@ Ext _gaxdSqrt_Finite(double x, Bits<double> bits) {
 Ext _gaxdSqrt_Spec(double x, Bits<double> bits) {
   if (bits.is_nan()) return Ext{x} + x;
   if (bits.is_zero() || !bits.is_negative()) return x;
-  return opaque(from_words(0x7ff8a5a5, 0x5a5a5a5a));
+  double nan;
+  put_words(nan, 0x7ff8a5a5, 0x5a5a5a5a);
+  return nan;
 }
 
 // About sqrt(x), for a positive normal number, times what the factors hold beside the root of two.
 DAKVM_INLINE Ext scaled_root(Bits<float> x, const double (&factors)[2]) {
-  const float m = opaque(from_word((x.word & 0x7fffff) | 0x3f800000));
-  const float scale = opaque(from_word((x.word >> 1 & 0x7f800000) + 0x1f800000));
+  float m, scale;
+  put_word(m, (x.word & 0x7fffff) | 0x3f800000);
+  put_word(scale, (x.word >> 1 & 0x7f800000) + 0x1f800000);
   const uint32_t j = x.word >> 17 & 0x3f;
   return ((Ext{dwA2[j]} * m + dwA1[j]) * m + dwA0[j]) * factors[x.word >> 23 & 1] * scale;
 }
@@ -70,7 +74,11 @@ Ext _gaxsSqrt_Deno(float x, Bits<float> bits) {
 }
 
 Ext _gaxsSqrt_Spec(float x, Bits<float> bits) {
-  if (bits.is_negative() && !bits.is_zero() && !bits.is_nan()) return opaque(from_word(0xffc00000));
+  if (bits.is_negative() && !bits.is_zero() && !bits.is_nan()) {
+    float nan;
+    put_word(nan, 0xffc00000);
+    return nan;
+  }
   return round_to_float(Ext{x} + x);
 }
 

@@ -6,7 +6,8 @@
 //                r = 1/2 - y h,  y <- y + r y,  h <- h + r h
 //            take y to sqrt(v) and h to 1/(2 sqrt(v)); the result is (y + h d) 2^E with the
 //            residual d = v - y^2.
-// Exactness  v is exact. Veltkamp splitting gives y = hi + lo with 26 bits in hi and at most 38 in
+// Exactness  v is exact: the product with 2^p is formed in the exponent field. Veltkamp splitting
+// gives y = hi + lo with 26 bits in hi and at most 38 in
 //            lo, so hi - as c - (c - y), where the second difference is rounded - and lo are
 //            exact as they stand in the register, and so are hi hi and v - hi hi.
 // Error      seed 2^-8.9, then 2^-17.2, 2^-33.8 and 2^-63.4 (registers); the correction leaves
@@ -24,7 +25,7 @@ struct Table {
   double seed[2][256];  // 1/sqrt(2^p (1 + k/256)), in 11 bits
   double raise;         // 2^200, which makes a subnormal number normal
   double zero, half;
-  double factor[2];  // 2^p
+  double factor[2];  // 2^p, which takes m to v
   double splitter;   // 2^27 + 1
 };
 static_assert(sizeof(Table) == 518 * sizeof(double));
@@ -32,11 +33,10 @@ static_assert(sizeof(Table) == 518 * sizeof(double));
 // One positive normal number of type T on its way.
 template <class T>
 struct Element {
-  T m;           // mantissa, in [1, 2)
+  T v;           // in [1, 4)
   double scale;  // 2^E
   const double* seed;
-  const double* factor;
-  double v, c, c_less_y;
+  double c, c_less_y;
   Ext y, h;
 
   DAKVM_INLINE void start(const Table& t, const T* x) { decompose(t, x, 0); }
@@ -47,17 +47,15 @@ struct Element {
     const uint32_t e = bits.exponent() - Bits<T>::bias;
     const uint32_t p = e & 1;
     const uint32_t k = bits.lead() >> (Bits<T>::fraction_bits - 8) & 0xff;
-    m = with_exponent_of_one(bits);
+    put_scaled_mantissa(v, bits, p);
     seed = &t.seed[p][k];
-    factor = &t.factor[p];
-    scale = power_of_two(static_cast<uint32_t>(static_cast<int32_t>(e - p) >> 1) + 1023 - raised);
+    put_power_of_two(scale,
+                     static_cast<uint32_t>(static_cast<int32_t>(e - p) >> 1) + 1023 - raised);
   }
 
   DAKVM_INLINE void iterate(const Table& t) {
-    const Ext v0 = Ext{m} * *factor;
     Ext h0 = t.half * Ext{*seed};
-    Ext y0 = *seed * v0;
-    v = static_cast<double>(v0);
+    Ext y0 = *seed * Ext{v};
     for (int step = 0; step < 3; ++step) {
       const Ext r = t.half - y0 * h0;
       y0 = y0 + r * y0;
@@ -78,11 +76,12 @@ struct Element {
   }
 
  private:
-  DAKVM_INLINE static double with_exponent_of_one(Bits<double> bits) {
-    return from_words((bits.high & 0xfffff) | 0x3ff00000, bits.low);
+  // m 2^p, put together in the exponent field; p is 0 or 1.
+  DAKVM_INLINE static void put_scaled_mantissa(double& v, Bits<double> x, uint32_t p) {
+    put_words(v, (x.high & 0xfffff) | (0x3ff00000 + (p << 20)), x.low);
   }
-  DAKVM_INLINE static float with_exponent_of_one(Bits<float> bits) {
-    return from_word((bits.word & 0x7fffff) | 0x3f800000);
+  DAKVM_INLINE static void put_scaled_mantissa(float& v, Bits<float> x, uint32_t p) {
+    put_word(v, (x.word & 0x7fffff) | (0x3f800000 + (p << 23)));
   }
 };
 

@@ -59,7 +59,7 @@ struct Reduction {
   }
   DAKVM_INLINE void split_index(const Table&) {
     row = low_word(s) % 64;
-    scale = power_of_two(M() + 1023);
+    put_power_of_two(scale, M() + 1023);
   }
 
   DAKVM_INLINE uint32_t M() const { return low_word(s) / 64; }  // modulo 2^26
@@ -167,11 +167,11 @@ struct Kernel {
     element.split_index(t);
     const uint32_t M = element.M();
     if (subnormal) {
-      element.scale = power_of_two(M + 1083);
+      put_power_of_two(element.scale, M + 1083);
       return element.rebuild_subnormal(t);
     }
     if (((M + 1023) & 0x7ff) == 2047) {  // 2^M itself would be infinite
-      element.scale = power_of_two(M + 1022);
+      put_power_of_two(element.scale, M + 1022);
       return element.rebuild(t) * t.two;
     }
     return element.rebuild(t);
