@@ -70,10 +70,10 @@ struct Arrays {
     (std::make_integer_sequence<int, sources>{});
   }
 
-  DAKVM_INLINE void store(int32_t i, Ext result) const { dst[0][i] = static_cast<T>(result); }
+  DAKVM_INLINE void store(int32_t i, Ext result) const { dst[0][i] = x87::narrow<T>(result); }
   DAKVM_INLINE void store(int32_t i, const std::pair<Ext, Ext>& results) const {
-    dst[0][i] = static_cast<T>(results.first);
-    dst[1][i] = static_cast<T>(results.second);
+    dst[0][i] = x87::narrow<T>(results.first);
+    dst[1][i] = x87::narrow<T>(results.second);
   }
 
   // A destination that starts less than a block behind a source receives results where elements of
@@ -154,10 +154,10 @@ DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len
     run_block<Kernel>(context, arrays, i, len - i < block ? len - i : block, report);
 }
 
-// Kept whole and apart: the grades that share a kernel share its one machine code.
+// The grades that share a kernel share its one machine code.
 template <class Kernel, class T, int sources, int destinations, class Context>
-[[gnu::noinline, gnu::noclone]] int32_t run(Arrays<T, sources, destinations> arrays, int32_t len,
-                                            const Context& context, const char* name) {
+DAKVM_WHOLE int32_t run(Arrays<T, sources, destinations> arrays, int32_t len,
+                        const Context& context, const char* name) {
   if (len < 1) return DAKVM_STATUS_SIZE_ERR;
   if (arrays.any_null()) return DAKVM_STATUS_NULL_PTR_ERR;
   Report<T, Arrays<T, sources, destinations>> report(arrays, name);

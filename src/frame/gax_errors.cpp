@@ -7,6 +7,7 @@
 using dakvm::ErrorContext;
 using dakvm::Status;
 using dakvm::x87::Ext;
+using dakvm::x87::narrow;
 using dakvm::x87::opaque;
 
 namespace {
@@ -28,7 +29,7 @@ uint32_t append(const char* text, uint32_t limit, char* buffer, uint32_t positio
 }
 
 // The store is the operation that can overflow or underflow: an Ext holds every product of doubles.
-void raise_by_storing(Ext result) { opaque(static_cast<double>(result)); }
+void raise_by_storing(Ext result) { opaque(narrow<double>(result)); }
 
 void notify(int32_t code, int32_t index, const char* name) {
   ErrorContext context;

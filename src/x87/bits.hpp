@@ -82,54 +82,53 @@ DAKVM_INLINE void put_power_of_two(double& number, uint32_t biased) {
   put_words(number, (biased & 0x7ff) << 20, 0);
 }
 
-// A number returned in the register where its type is returned, without the load that would raise
-// invalid for a signalling NaN: on i386 that register is st(0), filled from an 80-bit image.
+// What a function returns for a number with given bits, so that no flag is raised on the way. On
+// i386 a double or float is returned in st(0), as a long double is; loading it there from its own
+// format would raise invalid for a signalling NaN, loading its 80-bit image does not.
 #ifdef __i386__
-namespace detail {
-struct [[gnu::packed]] Image {
-  uint64_t significand;
-  uint16_t sign_exponent;
-};
-
 template <class T>
-DAKVM_INLINE T load_image(bool negative, uint32_t exponent, uint32_t bias, uint32_t top,
-                          uint64_t significand) {
-  // Subnormal numbers are normalised: an 80-bit image with a clear leading bit and a nonzero
-  // exponent field would not be a number.
+using Returned = Ext;
+
+namespace detail {
+// `fraction` has its first bit in bit 62; `top` is the exponent field of infinities and NaN.
+inline Ext image_of(bool negative, uint32_t exponent, uint32_t top, uint64_t fraction) {
+  constexpr uint64_t leading_bit = uint64_t{1} << 63;
+  const uint32_t rebias = 0x3fff - top / 2;
   uint32_t wide = 0;
-  if (exponent == top) {
-    wide = 0x7fff;
-    significand |= uint64_t{1} << 63;
-  } else if (exponent != 0) {
-    wide = exponent - bias + 0x3fff;
-    significand |= uint64_t{1} << 63;
-  } else if (significand != 0) {
-    wide = 1 - bias + 0x3fff;
-    for (; significand >> 63 == 0; significand <<= 1) --wide;
+  uint64_t significand = fraction;
+  if (exponent != 0) {
+    wide = exponent == top ? 0x7fff : exponent + rebias;
+    significand |= leading_bit;
+  } else if (fraction != 0) {  // subnormal there, normal here
+    for (wide = rebias + 1; (significand & leading_bit) == 0; significand <<= 1) --wide;
   }
-  const Image image{significand, static_cast<uint16_t>(wide | (negative ? 0x8000u : 0u))};
-  T number;
-  asm("fldt %1" : "=t"(number) : "m"(image));
-  return number;
+  const auto sign_exponent = static_cast<uint16_t>(wide | (negative ? 0x8000u : 0u));
+  Ext image;
+  auto* bytes = reinterpret_cast<char*>(&image);
+  __builtin_memcpy(bytes, &significand, 8);
+  __builtin_memcpy(bytes + 8, &sign_exponent, 2);
+  return image;
 }
 }  // namespace detail
 
-DAKVM_INLINE double as_returned(Bits<double> bits) {
+inline Ext as_returned(Bits<double> bits) {
   const uint64_t fraction = (uint64_t{bits.high & 0xfffff} << 32 | bits.low) << 11;
-  return detail::load_image<double>(bits.is_negative(), bits.exponent(), 1023, 0x7ff, fraction);
+  return detail::image_of(bits.is_negative(), bits.exponent(), 0x7ff, fraction);
 }
-
-DAKVM_INLINE float as_returned(Bits<float> bits) {
-  const uint64_t fraction = uint64_t{bits.word & 0x7fffff} << 40;
-  return detail::load_image<float>(bits.is_negative(), bits.exponent(), 127, 0xff, fraction);
+inline Ext as_returned(Bits<float> bits) {
+  return detail::image_of(bits.is_negative(), bits.exponent(), 0xff,
+                          uint64_t{bits.word & 0x7fffff} << 40);
 }
 #else
-DAKVM_INLINE double as_returned(Bits<double> bits) {
+template <class T>
+using Returned = T;
+
+inline double as_returned(Bits<double> bits) {
   double number;
   put_words(number, bits.high, bits.low);
   return number;
 }
-DAKVM_INLINE float as_returned(Bits<float> bits) {
+inline float as_returned(Bits<float> bits) {
   float number;
   put_word(number, bits.word);
   return number;

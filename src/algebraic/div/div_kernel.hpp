@@ -24,12 +24,12 @@ struct Kernel<double> {
   DAKVM_INLINE static Status apply(const Table<double>& t, const double* a, const double* b,
                                    double* r) {
     const auto dividend = Bits<double>::read(a), divisor = Bits<double>::read(b);
-    *r = static_cast<double>(Ext{*a} / *b);
+    *r = narrow<double>(load(a) / load(b));
     const auto again = Bits<double>::read(b);
     // One compare for the ordinary divisor: neither of the zeros' high word nor infinite nor NaN.
     if (2 * again.high - 1 < 2 * 0x7ff00000u - 1) [[likely]]
       return Status::ok;
-    const bool zero_or_nan = again.is_nan() || Ext{*b} == t.zero;
+    const bool zero_or_nan = again.is_nan() || load(b) == t.zero;
     return dividend.is_finite() && divisor.is_finite() && zero_or_nan ? Status::singularity
                                                                       : Status::ok;
   }
@@ -38,8 +38,8 @@ struct Kernel<double> {
 template <>
 struct Kernel<float> {
   DAKVM_INLINE static Status apply(const Table<float>&, const float* a, const float* b, float* r) {
-    const bool singular = Bits<float>::read(a).is_finite() & Bits<float>::read(b).is_zero();
-    *r = static_cast<float>(Ext{*a} / *b);
+    const bool singular = Bits<float>::read(b).is_zero() && Bits<float>::read(a).is_finite();
+    *r = narrow<float>(load(a) / load(b));
     return singular ? Status::singularity : Status::ok;
   }
 };

@@ -17,7 +17,7 @@ template <class T>
 struct Kernel {
   DAKVM_INLINE static Status apply(const Table<T>& t, const T* x, T* r) {
     const bool singular = Bits<T>::read(x).is_zero();
-    *r = static_cast<T>(Ext{t.one} / *x);
+    *r = narrow<T>(Ext{t.one} / *x);
     return singular ? Status::singularity : Status::ok;
   }
 };

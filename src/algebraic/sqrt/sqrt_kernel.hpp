@@ -61,12 +61,12 @@ struct Element {
       y0 = y0 + r * y0;
       h0 = h0 + r * h0;
     }
-    c = static_cast<double>(t.splitter * y0);
+    c = narrow<double>(t.splitter * y0);
     y = y0;
     h = h0;
   }
 
-  DAKVM_INLINE void split(const Table&) { c_less_y = static_cast<double>(c - y); }
+  DAKVM_INLINE void split(const Table&) { c_less_y = narrow<double>(c - y); }
 
   DAKVM_INLINE Ext correct(const Table&) const {
     const Ext hi = Ext{c} - c_less_y;
@@ -102,7 +102,7 @@ struct Kernel {
   [[gnu::cold, gnu::noinline]] static Status apply(const Table& t, const T* src, T* dst) {
     const auto x = Bits<T>::read(src);
     if (x.is_nan() || (x.is_infinity() && !x.is_negative())) {
-      *dst = static_cast<T>(Ext{*src} + *src);
+      *dst = narrow<T>(Ext{*src} + *src);
       return Status::ok;
     }
     if (x.is_zero()) {
@@ -110,14 +110,14 @@ struct Kernel {
       return Status::ok;
     }
     if (x.is_negative()) {
-      *dst = static_cast<T>(opaque(t.zero) / Ext{opaque(t.zero)});
+      *dst = narrow<T>(opaque(t.zero) / Ext{opaque(t.zero)});
       return Status::domain;
     }
     // Subnormal: raised to a normal double, also from a float.
     const double raised = round_to_double(Ext{*src} * t.raise);
     sqrt::Element<double> element;
     element.decompose(t, &raised, 100);
-    *dst = static_cast<T>(StagesOf<double>::run(element, t));
+    *dst = narrow<T>(StagesOf<double>::run(element, t));
     return Status::ok;
   }
 };

@@ -51,12 +51,11 @@ struct Reduction {
 
   template <class T>
   DAKVM_INLINE void start(const Table& t, const T* src) {
-    x = *src;
-    u = static_cast<double>(Ext{*src} * t.inv_step);
+    const Ext wide = *src;
+    x = narrow<double>(wide);
+    u = narrow<double>(wide * t.inv_step);
   }
-  DAKVM_INLINE void round_to_integer(const Table& t) {
-    s = static_cast<double>(Ext{u} + t.shifter);
-  }
+  DAKVM_INLINE void round_to_integer(const Table& t) { s = narrow<double>(Ext{u} + t.shifter); }
   DAKVM_INLINE void split_index(const Table&) {
     row = low_word(s) % 64;
     put_power_of_two(scale, M() + 1023);
@@ -133,27 +132,27 @@ struct Kernel {
   [[gnu::cold, gnu::noinline]] static Status apply(const Table& t, const T* src, T* dst) {
     const auto bits = Bits<T>::read(src);
     if (bits.is_infinity() && bits.is_negative()) {
-      *dst = static_cast<T>(t.zero);
+      *dst = narrow<T>(t.zero);
       return Status::ok;
     }
     const Ext x = *src;
     if (!bits.is_finite()) {
-      *dst = static_cast<T>(x * x);
+      *dst = narrow<T>(x * x);
       return Status::ok;
     }
     if (bits.exponent() < Bits<T>::bias - 52) {
-      *dst = static_cast<T>(t.one + x);
+      *dst = narrow<T>(t.one + x);
       return Status::ok;
     }
     if (x > t.overflow) {
-      *dst = static_cast<T>(Ext{opaque(t.largest)} * opaque(t.largest));
+      *dst = narrow<T>(Ext{opaque(t.largest)} * opaque(t.largest));
       return Status::overflow;
     }
     if (x < t.underflow) {
-      *dst = static_cast<T>(Ext{opaque(t.least)} * opaque(t.least));
+      *dst = narrow<T>(Ext{opaque(t.least)} * opaque(t.least));
       return Status::underflow;
     }
-    *dst = static_cast<T>(near_the_bounds(t, src, x < t.subnormal));
+    *dst = narrow<T>(near_the_bounds(t, src, x < t.subnormal));
     return Status::ok;
   }
 
