@@ -123,7 +123,7 @@ int32_t daksSqrt_32f_A24(const float* src, float* dst, int32_t len);
  *           DAKVM_STATUS_OVERFLOW, the result +Inf; below that of half the least subnormal number
  *           (-745.13..., 32f -103.97...) DAKVM_STATUS_UNDERFLOW, the result +0. Infinite arguments
  *           and subnormal results are not exceptional.
- * Accuracy: A53 0.5026 ulp, 99.94 % correctly rounded; A50 1.008 ulp; 32f none of 10^7 misrounded.
+ * Accuracy: A53 0.5026 ulp, 99.94 % correctly rounded; A50 1.009 ulp; 32f none of 10^7 misrounded.
  * Source:   P. T. P. Tang, ACM TOMS 15 (1989) 144-157.
  * @{ */
 int32_t daksExp_64f_A50(const double* src, double* dst, int32_t len);
