@@ -16,10 +16,10 @@ struct EvalOptions {
   std::string input = "-", output = "-";
   bool force = false;
   Layout layout = Layout::text;
-  CsvOptions csv;
+  CsvOptions csv{};
   Notation notation = Notation::decimal;
   OnError on_error = OnError::stop;
-  std::string exponent;  // empty: not given
+  std::string exponent{};  // empty: not given
 };
 
 // The elements that had one status.
