@@ -214,14 +214,12 @@ void OutputFile::commit() {
   }
   if (!temporary_) return;
   SignalsHeld held;
+  const char* const target = target_.c_str();
+  const auto error_of = [](int result) { return result == 0 ? 0 : errno; };
   int problem =
-      renameat2(AT_FDCWD, unfinished, AT_FDCWD, target_.c_str(), force_ ? 0 : RENAME_NOREPLACE)
-          ? errno
-          : 0;
-  if (problem == EINVAL)  // a file system without RENAME_NOREPLACE
-    problem = std::filesystem::exists(target_)           ? EEXIST
-              : std::rename(unfinished, target_.c_str()) ? errno
-                                                         : 0;
+      error_of(renameat2(AT_FDCWD, unfinished, AT_FDCWD, target, force_ ? 0 : RENAME_NOREPLACE));
+  if (problem == EINVAL)  // a file system that does not know RENAME_NOREPLACE
+    problem = access(target, F_OK) == 0 ? EEXIST : error_of(rename(unfinished, target));
   if (problem != 0) fail(problem);
   temporary_ = false;
   unfinished[0] = '\0';
