@@ -35,17 +35,20 @@ void describe_eval(CLI::App& eval, EvalArguments& a) {
   eval.add_option("--grade", a.grade,
                   "A53 (default) or A50 of 64f; A24 (default), A21 or A11 of 32f");
   eval.add_option("--exponent", o.exponent, "The exponent of functions that take one");
-  eval.add_option("-o,--output", o.output, "Write to this file, which appears when it is complete");
-  eval.add_flag("--force", o.force, "Replace an existing output file");
+  auto* output = eval.add_option("-o,--output", o.output,
+                                 "Write to this file, which appears when it is complete");
+  eval.add_flag("--force", o.force, "Replace an existing output file")->needs(output);
 
   auto* csv = eval.add_flag("--csv", a.csv, "CSV in; CSV out, with the result as a further column");
   eval.add_option("--column", o.csv.columns, "Name or number (from 1) of the column; A,B for two")
       ->needs(csv);
-  eval.add_flag("--no-header", a.no_header, "The first CSV line is data")->needs(csv);
+  auto* no_header =
+      eval.add_flag("--no-header", a.no_header, "The first CSV line is data")->needs(csv);
   eval.add_option("--delimiter", a.delimiter, "Between CSV columns, one character or 'tab'")
       ->needs(csv);
   eval.add_option("--name", o.csv.result_names, "Header of the result column; A,B for two")
-      ->needs(csv);
+      ->needs(csv)
+      ->excludes(no_header);
 
   auto* raw = eval.add_flag("--raw", a.raw, "Raw little-endian elements in and out")->excludes(csv);
   auto* hex = eval.add_flag("--hex", a.hex, "Results as hexadecimal numbers")->excludes(raw);

@@ -54,8 +54,9 @@ std::string rate(const Summary& summary) {
 }  // namespace
 
 std::string summary_text(const Summary& summary) {
-  std::string text = summary.function + ": " + std::to_string(summary.elements) + " elements, " +
-                     rate(summary) + " a second\n";
+  std::string text = summary.function + ": " + std::to_string(summary.elements) +
+                     (summary.elements == 1 ? " element, " : " elements, ") + rate(summary) +
+                     " a second\n";
   for (const Tally& tally : summary.tallies)
     text += "  " + status_name(tally.status) + " (" + std::to_string(tally.status) +
             "): " + std::to_string(tally.count) + ", first at index " +
