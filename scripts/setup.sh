@@ -26,9 +26,11 @@ case $level in
 esac
 [[ $# -le 1 ]] || fail "one level at a time" "usage: scripts/setup.sh [build|test|bench]"
 
-command -v dpkg-query >/dev/null && command -v apt-get >/dev/null ||
-  fail "this is not a Debian system; install by hand what these Debian packages hold:" \
-    "${wanted[*]}"
+for tool in dpkg-query apt-get; do
+  command -v "$tool" >/dev/null ||
+    fail "no $tool: this is not a Debian system; install what these Debian packages hold:" \
+      "${wanted[*]}"
+done
 
 missing_packages() {
   local package
