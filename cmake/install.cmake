@@ -1,1 +1,55 @@
-# filled in by the install work
+# Installation: component runtime is the shared library, component development all that is needed to
+# build against it, with CMake (package dakvmpx) or with pkg-config (dakvmpx.pc). Both find their
+# files relative to themselves, so the installed tree can be staged, moved and packaged.
+include(CMakePackageConfigHelpers)
+
+install(
+  TARGETS dakvmpx dakvmpx_static
+  EXPORT dakvmpx
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(
+  FILES ${PROJECT_SOURCE_DIR}/include/dakvmpx.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+  COMPONENT development)
+
+# The version file also refuses consumers of another pointer size.
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/dakvmpx)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/dakvmpxConfigVersion.cmake
+                                 COMPATIBILITY SameMajorVersion)
+install(
+  FILES ${PROJECT_BINARY_DIR}/dakvmpxConfigVersion.cmake
+  DESTINATION ${package_dir}
+  COMPONENT development)
+install(
+  EXPORT dakvmpx
+  FILE dakvmpxConfig.cmake
+  NAMESPACE dakvmpx::
+  DESTINATION ${package_dir}
+  COMPONENT development)
+
+file(RELATIVE_PATH pc_to_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+cmake_path(APPEND pc_libdir "\${prefix}" "${CMAKE_INSTALL_LIBDIR}")
+cmake_path(APPEND pc_includedir "\${prefix}" "${CMAKE_INSTALL_INCLUDEDIR}")
+configure_file(${CMAKE_CURRENT_LIST_DIR}/dakvmpx.pc.in ${PROJECT_BINARY_DIR}/dakvmpx.pc @ONLY)
+install(
+  FILES ${PROJECT_BINARY_DIR}/dakvmpx.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT development)
+
+install(
+  FILES ${PROJECT_SOURCE_DIR}/LICENSE
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT runtime)
+install(
+  FILES ${PROJECT_SOURCE_DIR}/README.md
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT development
+  OPTIONAL)
+install(
+  DIRECTORY ${PROJECT_SOURCE_DIR}/docs/
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT development
+  OPTIONAL
+  FILES_MATCHING
+  PATTERN "*.md")

@@ -1,0 +1,50 @@
+// Compiled once for each way of passing arguments, DAKVM_PASSING.
+#include "bench/libm_reference.hpp"
+
+#include <math.h>
+
+#include <type_traits>
+
+namespace dakvm::bench::DAKVM_PASSING {
+namespace {
+
+// The libm function `name` of the argument's type.
+#define DAKVM_LIBM(name)                                \
+  [](auto x, auto... more) {                            \
+    if constexpr (std::is_same_v<decltype(x), float>) { \
+      return ::name##f(x, more...);                     \
+    } else {                                            \
+      return ::name(x, more...);                        \
+    }                                                   \
+  }
+
+// One row for each family. A function of two outputs takes pointers to them behind its argument.
+constexpr auto Div = [](auto a, auto b) { return a / b; };
+constexpr auto Inv = [](auto x) { return 1 / x; };
+constexpr auto Sqrt = DAKVM_LIBM(sqrt);
+constexpr auto Exp = DAKVM_LIBM(exp);
+
+template <class F, registry::Form form, class T>
+void loop(const registry::Operands<T>& o, int32_t len) {
+  using enum registry::Form;
+  for (int32_t i = 0; i < len; ++i) {
+    if constexpr (form == one_input) o.dst1[i] = F{}(o.src1[i]);
+    if constexpr (form == two_inputs) o.dst1[i] = F{}(o.src1[i], o.src2[i]);
+    if constexpr (form == scalar_exponent) o.dst1[i] = F{}(o.src1[i], o.exponent);
+    if constexpr (form == two_outputs) F{}(o.src1[i], o.dst1 + i, o.dst2 + i);
+  }
+}
+
+constexpr Reference table[] = {
+#define DAKVM_FAMILY(name, form, ...)                         \
+  {#name, loop<decltype(name), registry::Form::form, double>, \
+   loop<decltype(name), registry::Form::form, float>},
+#include "registry/families.def"
+#undef DAKVM_FAMILY
+};
+
+}  // namespace
+
+std::span<const Reference> references() { return table; }
+
+}  // namespace dakvm::bench::DAKVM_PASSING
