@@ -116,6 +116,21 @@ int32_t daksSqrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksSqrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
+/** \name Inverse square root
+ * dst[i] = 1 / sqrt(src[i]): a short value from a table, corrected in one step by a series in its
+ * exact residual.
+ *
+ * Domain:   [-0, +Inf]. Zeros are DAKVM_STATUS_SINGULARITY, the result the infinity of their sign.
+ *           Numbers below zero and -Inf are DAKVM_STATUS_DOMAIN, the result NaN.
+ * Accuracy: 64f 0.5014 ulp, 99.97 % correctly rounded; 32f none of 10^7 misrounded.
+ * @{ */
+int32_t daksInvSqrt_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksInvSqrt_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksInvSqrt_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksInvSqrt_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksInvSqrt_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
 /** \name Exponential
  * dst[i] = e^src[i]: reduction by ln2/64, a table of 2^(j/64), a polynomial.
  *

@@ -35,7 +35,9 @@ struct Bits<double> {
   DAKVM_INLINE bool is_infinity() const { return magnitude() == 0x7ff00000 && low == 0; }
   DAKVM_INLINE bool is_nan() const { return !is_finite() && !is_infinity(); }
 
-  // The first word that holds sign and exponent.
+  DAKVM_INLINE bool is_positive_normal() const { return high - 0x00100000 < 0x7fe00000; }
+
+  // The word that holds sign and exponent.
   DAKVM_INLINE uint32_t lead() const { return high; }
 };
 
@@ -60,6 +62,8 @@ struct Bits<float> {
   DAKVM_INLINE bool is_infinity() const { return magnitude() == 0x7f800000; }
   DAKVM_INLINE bool is_nan() const { return magnitude() > 0x7f800000; }
 
+  DAKVM_INLINE bool is_positive_normal() const { return word - 0x00800000 < 0x7f000000; }
+
   DAKVM_INLINE uint32_t lead() const { return word; }
 };
 
@@ -75,6 +79,15 @@ DAKVM_INLINE void put_words(double& number, uint32_t high, uint32_t low) {
 
 DAKVM_INLINE void put_word(float& number, uint32_t word) {
   __builtin_memcpy(&number, &word, sizeof number);
+}
+
+// x with its sign dropped and its exponent replaced: mantissa times 2^exponent.
+DAKVM_INLINE void put_mantissa(double& number, Bits<double> x, uint32_t exponent) {
+  put_words(number, (x.high & 0xfffff) | (0x3ff00000 + (exponent << 20)), x.low);
+}
+
+DAKVM_INLINE void put_mantissa(float& number, Bits<float> x, uint32_t exponent) {
+  put_word(number, (x.word & 0x7fffff) | (0x3f800000 + (exponent << 23)));
 }
 
 // 2^(biased - 1023), for biased in [1, 2046]; of larger numbers the low 11 bits count.

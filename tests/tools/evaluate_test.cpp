@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -42,7 +43,8 @@ const registry::Function with_exponent{{"Scale", Form::scalar_exponent, "", "", 
 
 std::string result_of(const registry::Function& function, const std::string& input,
                       EvalOptions options) {
-  const std::filesystem::path folder = testing::TempDir();
+  std::string pattern = testing::TempDir() + "evaluate_XXXXXX";  // tests run side by side
+  const std::filesystem::path folder = mkdtemp(pattern.data());
   options.input = folder / "evaluate_in";
   options.output = folder / "evaluate_out";
   options.force = true;
@@ -50,6 +52,7 @@ std::string result_of(const registry::Function& function, const std::string& inp
   evaluate(function, options);
   std::ostringstream result;
   result << std::ifstream(options.output, std::ios::binary).rdbuf();
+  std::filesystem::remove_all(folder);
   return result.str();
 }
 

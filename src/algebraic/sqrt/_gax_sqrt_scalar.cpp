@@ -31,7 +31,7 @@ constexpr double dbScaledSqrt[2] = {1.414213562373095e-21, 2e-21};
 // About 1/sqrt(x), for a positive normal number.
 DAKVM_INLINE Ext reciprocal_root(Bits<double> x) {
   double m, scale;
-  put_words(m, (x.high & 0xfffff) | 0x3ff00000, x.low);
+  put_mantissa(m, x, 0);
   put_words(scale, 0x5fe00000 - (x.high >> 1 & 0x7ff00000), 0);
   const uint32_t j = x.high >> 13 & 0x7f;
   const Ext y = (Ext{dsqrt_dwA2[j]} * m + dsqrt_dwA1[j]) * m + dsqrt_dwA0[j];
@@ -61,7 +61,7 @@ Ext _gaxdSqrt_Spec(double x, Bits<double> bits) {
 // About sqrt(x), for a positive normal number, times what the factors hold beside the root of two.
 DAKVM_INLINE Ext scaled_root(Bits<float> x, const double (&factors)[2]) {
   float m, scale;
-  put_word(m, (x.word & 0x7fffff) | 0x3f800000);
+  put_mantissa(m, x, 0);
   put_word(scale, (x.word >> 1 & 0x7f800000) + 0x1f800000);
   const uint32_t j = x.word >> 17 & 0x3f;
   return ((Ext{dwA2[j]} * m + dwA1[j]) * m + dwA0[j]) * factors[x.word >> 23 & 1] * scale;

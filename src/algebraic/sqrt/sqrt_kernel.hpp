@@ -47,7 +47,7 @@ struct Element {
     const uint32_t e = bits.exponent() - Bits<T>::bias;
     const uint32_t p = e & 1;
     const uint32_t k = bits.lead() >> (Bits<T>::fraction_bits - 8) & 0xff;
-    put_scaled_mantissa(v, bits, p);
+    put_mantissa(v, bits, p);  // m 2^p
     seed = &t.seed[p][k];
     put_power_of_two(scale,
                      static_cast<uint32_t>(static_cast<int32_t>(e - p) >> 1) + 1023 - raised);
@@ -74,15 +74,6 @@ struct Element {
     const Ext d = v - hi * hi - (hi + hi) * lo - lo * lo;
     return (y + h * d) * scale;
   }
-
- private:
-  // m 2^p, put together in the exponent field; p is 0 or 1.
-  DAKVM_INLINE static void put_scaled_mantissa(double& v, Bits<double> x, uint32_t p) {
-    put_words(v, (x.high & 0xfffff) | (0x3ff00000 + (p << 20)), x.low);
-  }
-  DAKVM_INLINE static void put_scaled_mantissa(float& v, Bits<float> x, uint32_t p) {
-    put_word(v, (x.word & 0x7fffff) | (0x3f800000 + (p << 23)));
-  }
 };
 
 template <class T>
@@ -93,11 +84,7 @@ struct Kernel {
   using Element = sqrt::Element<T>;
   using Stages = StagesOf<T>;
 
-  DAKVM_INLINE static bool is_ordinary(const Table&, Bits<T> x) {
-    constexpr uint32_t least = 1u << Bits<T>::fraction_bits;
-    constexpr uint32_t infinity = (2 * Bits<T>::bias + 1) << Bits<T>::fraction_bits;
-    return x.lead() - least < infinity - least;  // positive, normal
-  }
+  DAKVM_INLINE static bool is_ordinary(const Table&, Bits<T> x) { return x.is_positive_normal(); }
 
   [[gnu::cold, gnu::noinline]] static Status apply(const Table& t, const T* src, T* dst) {
     const auto x = Bits<T>::read(src);
