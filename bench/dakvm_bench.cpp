@@ -231,9 +231,8 @@ int main(int argc, char** argv) {
   const double cycles_per_ns = time_stamp_rate();
   benchmark::AddCustomContext("time_stamp_cycles_per_ns", std::to_string(cycles_per_ns));
   Table table(cycles_per_ns);
-  if (other_format)
-    benchmark::RunSpecifiedBenchmarks();
-  else
-    benchmark::RunSpecifiedBenchmarks(&table);
+  const size_t run = other_format ? benchmark::RunSpecifiedBenchmarks()
+                                  : benchmark::RunSpecifiedBenchmarks(&table);
   benchmark::Shutdown();
+  return run > 0 ? 0 : 1;
 }
