@@ -22,6 +22,7 @@ namespace {
 constexpr auto Div = [](auto a, auto b) { return a / b; };
 constexpr auto Inv = [](auto x) { return 1 / x; };
 constexpr auto Sqrt = DAKVM_LIBM(sqrt);
+constexpr auto InvSqrt = [](auto x) { return 1 / Sqrt(x); };
 constexpr auto Exp = DAKVM_LIBM(exp);
 
 template <class F, registry::Form form, class T>
