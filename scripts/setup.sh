@@ -43,7 +43,6 @@ missing_packages() {
 mapfile -t missing < <(missing_packages)
 [[ ${#missing[@]} -gt 0 ]] || exit 0
 
-echo "setup.sh: installing with apt-get: ${missing[*]}"
 if [[ $EUID -eq 0 ]]; then
   as_root=(env)
 elif command -v sudo >/dev/null; then
@@ -51,6 +50,7 @@ elif command -v sudo >/dev/null; then
 else
   fail "neither root nor sudo: have these packages installed and try again:" "${missing[*]}"
 fi
+echo "setup.sh: installing with apt-get: ${missing[*]}"
 # A lock held by another apt is waited for; interrupted downloads are tried again.
 apt=("${as_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300
   -o Acquire::Retries=3)
