@@ -148,6 +148,37 @@ int32_t daksExp_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksExp_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
+/** \name Natural logarithm
+ * dst[i] = ln(src[i]). A50: the mantissa in [sqrt(1/2), sqrt(2)), a series for artanh. Others: a
+ * table of 65 short reciprocals and their logarithms, a polynomial; near 1 the polynomial alone.
+ *
+ * Domain:   [-0, +Inf]. Zeros are DAKVM_STATUS_SINGULARITY, the result -Inf. Numbers below zero,
+ *           subnormal ones included, and -Inf are DAKVM_STATUS_DOMAIN, the result NaN.
+ * Accuracy: @LN@
+ * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400, for the table.
+ * @{ */
+int32_t daksLn_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksLn_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksLn_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksLn_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksLn_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Decimal logarithm
+ * dst[i] = log10(src[i]): as the natural logarithm, with log10(2) for ln 2; powers of ten give
+ * whole numbers.
+ *
+ * Domain:   as the natural logarithm.
+ * Accuracy: @LOG10@
+ * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400, for the table.
+ * @{ */
+int32_t daksLog10_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksLog10_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksLog10_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksLog10_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksLog10_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
 /** Square root of one double, by a polynomial for the reciprocal root and one Newton step. The
  * result is returned without a last rounding, in 64 significant bits. Negative numbers and -Inf
  * give the NaN 0x7FF8A5A55A5A5A5A, -0 itself. No status, no notification. Accuracy after a store

@@ -81,7 +81,7 @@ DAKVM_INLINE void put_word(float& number, uint32_t word) {
   __builtin_memcpy(&number, &word, sizeof number);
 }
 
-// x with its sign dropped and its exponent replaced: mantissa times 2^exponent.
+// The mantissa of x, in [1, 2), times 2^exponent; an exponent below zero wraps.
 DAKVM_INLINE void put_mantissa(double& number, Bits<double> x, uint32_t exponent) {
   put_words(number, (x.high & 0xfffff) | (0x3ff00000 + (exponent << 20)), x.low);
 }

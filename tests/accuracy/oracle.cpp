@@ -44,8 +44,14 @@ int reciprocal(mpfr_ptr result, mpfr_srcptr x, mpfr_rnd_t rounding) {
 }
 
 constexpr Reference references[] = {
-    {"Div", nullptr, mpfr_div},   {"Inv", reciprocal, nullptr}, {"Sqrt", mpfr_sqrt, nullptr},
-    {"sqrt", mpfr_sqrt, nullptr}, {"Exp", mpfr_exp, nullptr},   {"InvSqrt", mpfr_rec_sqrt, nullptr},
+    {"Div", nullptr, mpfr_div},
+    {"Inv", reciprocal, nullptr},
+    {"Sqrt", mpfr_sqrt, nullptr},
+    {"sqrt", mpfr_sqrt, nullptr},
+    {"InvSqrt", mpfr_rec_sqrt, nullptr},
+    {"Exp", mpfr_exp, nullptr},
+    {"Ln", mpfr_log, nullptr},
+    {"Log10", mpfr_log10, nullptr},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar
