@@ -74,12 +74,12 @@ struct Log10Table {
 };
 static_assert(sizeof(Log10Table) == 212 * sizeof(double));
 
-// x with the given exponent field in place of its own.
+// x with the given exponent field of double in place of its own.
 DAKVM_INLINE void put_mantissa(double& m, Bits<double> x, uint32_t exponent) {
   put_words(m, (x.high & 0xfffff) | exponent << 20, x.low);
 }
-DAKVM_INLINE void put_mantissa(float& m, Bits<float> x, uint32_t exponent) {
-  put_word(m, (x.word & 0x7fffff) | exponent << 23);
+DAKVM_INLINE void put_mantissa(double& m, Bits<float> x, uint32_t exponent) {
+  put_words(m, (x.word >> 3 & 0xfffff) | exponent << 20, x.word << 29);
 }
 
 // E of a number that was raised by 2^raised.
@@ -88,13 +88,17 @@ DAKVM_INLINE int32_t exponent_of(Bits<T> x, int32_t raised) {
   return static_cast<int32_t>(x.exponent() - Bits<T>::bias) - raised;
 }
 
+// The first statement of a long stage, settle(&t), has it read the table from memory: constants
+// that a compiler keeps from one element to the next it spills as 80-bit images, which load slowly.
+
 // One positive normal number on its way through the series.
 template <class Table>
 struct SeriesElement {
   double m;  // in [sqrt(1/2), sqrt(2))
   int32_t E;
   Ext s;
-  double g, sg;
+  double g;  // f - z A(z)
+  double sg;
 
   DAKVM_INLINE void start(const Table& t, const double* x) { decompose(t, x, 0); }
 
@@ -109,6 +113,7 @@ struct SeriesElement {
   }
 
   DAKVM_INLINE void sum_series(const Table& t) {
+    settle(&t);
     const Ext f = m - Ext{t.one};
     s = f / (t.two + f);
     const Ext z = s * s;
@@ -133,18 +138,22 @@ using SeriesStages =
     frame::Pipeline<&SeriesElement<Table>::sum_series, &SeriesElement<Table>::correct,
                     &SeriesElement<Table>::rebuild>;
 
-// One positive normal number of type T on its way through a table.
-template <class T, class Table>
+// One positive normal number on its way through a table.
+template <class Table>
 struct TableElement {
-  T m;
+  double m;
   int32_t E;
   double indexed, cut;  // sums with shifter and splitter
 
-  DAKVM_INLINE void start(const Table& t, const T* x) { decompose(t, x, 0); }
+  template <class T>
+  DAKVM_INLINE void start(const Table& t, const T* x) {
+    decompose(t, x, 0);
+  }
 
+  template <class T>
   DAKVM_INLINE void decompose(const Table&, const T* x, int32_t raised) {
     const auto bits = Bits<T>::read(x);
-    put_mantissa(m, bits, Bits<T>::bias);
+    put_mantissa(m, bits, Bits<double>::bias);
     E = exponent_of(bits, raised);
   }
 
@@ -154,6 +163,7 @@ struct TableElement {
   }
 
   DAKVM_INLINE Ext rebuild(const Table& t) const {
+    settle(&t);
     const Row& row = t.rows[low_word(indexed) % 128];
     const Ext mh = Ext{cut} - t.splitter;
     const Ext rest = m - mh;
@@ -181,14 +191,14 @@ DAKVM_INLINE Ext polynomial(const Log10Table& t, Ext w) {
          t.d1;
 }
 
-template <class T, class Table>
-Ext TableElement<T, Table>::sum(const LnTable& t, Ext hi, Ext lo, Ext product, Ext c) {
+template <class Table>
+Ext TableElement<Table>::sum(const LnTable& t, Ext hi, Ext lo, Ext product, Ext c) {
   const Ext a = product - t.one;
   return (hi + a) + (c + (polynomial(t, a + c) + lo));
 }
 
-template <class T, class Table>
-Ext TableElement<T, Table>::sum(const Log10Table& t, Ext hi, Ext lo, Ext product, Ext c) {
+template <class Table>
+Ext TableElement<Table>::sum(const Log10Table& t, Ext hi, Ext lo, Ext product, Ext c) {
   const Ext a = product - t.k;
   const Ext P = polynomial(t, a + c);
   return (hi + a) + (c + (lo + P * c) + P * a);
@@ -200,9 +210,8 @@ DAKVM_INLINE Ext near_one(const Log10Table& t, Ext u) {
   return w + polynomial(t, w) * w;
 }
 
-template <class T, class Table>
-using TableStages =
-    frame::Pipeline<&TableElement<T, Table>::split, &TableElement<T, Table>::rebuild>;
+template <class Table>
+using TableStages = frame::Pipeline<&TableElement<Table>::split, &TableElement<Table>::rebuild>;
 
 template <class T>
 DAKVM_INLINE bool is_positive_normal(Bits<T> x) {
@@ -260,8 +269,8 @@ struct SeriesKernel {
 
 template <class T, class Table>
 struct TableKernel {
-  using Element = TableElement<T, Table>;
-  using Stages = TableStages<T, Table>;
+  using Element = TableElement<Table>;
+  using Stages = TableStages<Table>;
 
   // The interval near one, one step of the lead word wider below: in any precision of the unit, the
   // difference x - 1 of other numbers lies beyond the bound.
@@ -277,9 +286,9 @@ struct TableKernel {
       const Ext u = Ext{x} - t.one;
       const Ext rounded = round_to_double(u);
       if (rounded <= t.near_one && -rounded <= t.near_one) return near_one(t, u);
-      TableElement<double, Table> element;
+      Element element;
       element.decompose(t, &x, raised);
-      return TableStages<double, Table>::run(element, t);
+      return Stages::run(element, t);
     });
   }
 };
