@@ -86,6 +86,10 @@ DAKVM_INLINE void put_mantissa(double& number, Bits<double> x, uint32_t exponent
   put_words(number, (x.high & 0xfffff) | (0x3ff00000 + (exponent << 20)), x.low);
 }
 
+DAKVM_INLINE void put_mantissa(double& number, Bits<float> x, uint32_t exponent) {
+  put_words(number, (x.word >> 3 & 0xfffff) | (0x3ff00000 + (exponent << 20)), x.word << 29);
+}
+
 DAKVM_INLINE void put_mantissa(float& number, Bits<float> x, uint32_t exponent) {
   put_word(number, (x.word & 0x7fffff) | (0x3f800000 + (exponent << 23)));
 }
