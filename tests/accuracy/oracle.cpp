@@ -46,6 +46,7 @@ int reciprocal(mpfr_ptr result, mpfr_srcptr x, mpfr_rnd_t rounding) {
 constexpr Reference references[] = {
     {"Div", nullptr, mpfr_div},   {"Inv", reciprocal, nullptr}, {"Sqrt", mpfr_sqrt, nullptr},
     {"sqrt", mpfr_sqrt, nullptr}, {"Exp", mpfr_exp, nullptr},
+    {"Pow", nullptr, mpfr_pow},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar
