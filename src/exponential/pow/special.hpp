@@ -86,6 +86,10 @@ DAKVM_INLINE Status settle_special(const Table& t, const T* x, const T* y, T* z,
   const bool finite = xb.is_finite() && yb.is_finite();
   const bool unit = is_unit(xb);
   if (yb.is_zero() || (unit && (!xb.is_negative() || !finite))) return give(t.one);
+  // Loads stay below: one of a signalling NaN raises invalid, and compilers take loads for
+  // harmless.
+  settle(x);
+  settle(y);
   if (xb.is_nan() || yb.is_nan()) return give(load(x) + load(y));
   if (xb.is_zero()) {
     const Ext square = Ext{opaque(*x)} * opaque(*x);
