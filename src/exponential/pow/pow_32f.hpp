@@ -63,10 +63,11 @@ struct Element32 {
     const auto& [L_high, L_low] = t.L[row];
     const Ext high = Ext(E) + L_high;
     const Ext F = Ext{m} * t.R[row] - t.one;
+    const Ext F2 = F * F;
     const Ext series =
-        ((((((t.c9 * F + t.c8) * F + t.c7) * F + t.c6) * F + t.c5) * F + t.c4) * F + t.c3) * F +
-        t.c2;
-    const Ext g = F * F * series;
+        (((t.c9 * F + t.c8) * F2 + (t.c7 * F + t.c6)) * F2 + (t.c5 * F + t.c4)) * F2 +
+        (t.c3 * F + t.c2);
+    const Ext g = F2 * series;
     const Ext rest = (L_low + (F + g) * t.clo) + g * t.chi;
     Hi = narrow<double>(high);
     f = narrow<double>(F);
@@ -85,8 +86,9 @@ struct Element32 {
     const Table32& t = context.table;
     const Ext n = Ext{Z} - t.shifter;
     const Ext r = ((Ext{y} * Hi - n) + Ext{y} * f * t.chi) + l * y;
+    const Ext r2 = r * r;
     const Ext w =
-        ((((((t.f6 * r + t.f5) * r + t.f4) * r + t.f3) * r + t.f2) * r) + t.f1_tail) * r + r * t.f1;
+        (((t.f6 * r + t.f5) * r2 + (t.f4 * r + t.f3)) * r2 + (t.f2 * r + t.f1_tail)) * r + r * t.f1;
     const auto& [Ehi, Elo] = t.pow2[row];
     const Ext V = Ehi + (w * Ehi + Elo);
     return ((V + t.grid) - t.grid) * scale;

@@ -1,7 +1,7 @@
 // x^y for one element, double precision; Pow and Powx share this file.
 //
 // Method     |x| = 2^E m, three short reciprocals bring m to K: with Rp = R1 R2 R3,
-//                m Rp = K + u,  K = 1.442694902420044 (1/ln2, 24 bits),  |u| < 2^-14.
+//                m Rp = K + u,  K = 1.442694902420044 (1/ln2, 23 bits),  |u| < 2^-14.
 //            log2|x| = Hi + Lo + v + q(v) with v = u + err, err what the product m Rp lost, Hi + Lo
 //            the logarithms of the reciprocals, q the rest of log2(1 + v/K). Its sum is B + t2.
 //            y (B + t2) = N/128 + r with N = 128 M + j, 0 <= j < 128, |r| < 2^-7.9;
@@ -10,8 +10,8 @@
 //            are multiples of 2^-40: Hi is exact. m Rp is a multiple of 2^-63 near K: u is a
 //            double. A split has two roundings; v - (c - d) has 27 bits. P = yh Bh has 52 bits.
 // Error      log2|x| is off by 2^-68 of itself, which y log2|x| < 2^10 makes 2^-58 of the result;
-//            the rounding of V comes on top: 0.506 ulp. In 1.2e-5 < |x - 1| < 2.3e-5, where Hi is
-//            0 or as small as v, the polynomial's error counts in full: 0.546 ulp.
+//            the rounding of V comes on top: 0.5064 ulp. In 1.2e-5 < |x - 1| < 2.3e-5, where Hi is
+//            0 or as small as v, the polynomial's error counts in full: 0.55 ulp.
 // Special    NaN, infinities, zeros, |x| = 1, subnormal x, x < 0 under a y that is no integer:
 //            apply. Results near or beyond the bounds of double: the end of the chain.
 // Source     T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the split and the products.
