@@ -26,6 +26,8 @@ constexpr auto InvSqrt = [](auto x) { return 1 / Sqrt(x); };
 constexpr auto Exp = DAKVM_LIBM(exp);
 constexpr auto Ln = DAKVM_LIBM(log);
 constexpr auto Log10 = DAKVM_LIBM(log10);
+constexpr auto Pow = DAKVM_LIBM(pow);
+constexpr auto Powx = Pow;
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -180,6 +180,38 @@ int32_t daksLog10_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksLog10_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
+/** \name Power
+ * dst[i] = src1[i] ^ src2[i]. 64f: log2 in two parts through three table reductions, an exactly split
+ * product, a table of 2^(j/128) and a polynomial. 32f: the same identity in extended precision.
+ *
+ * Domain:   x > 0 with any y, x < 0 with integer y, x = 0 with y > 0. DAKVM_STATUS_DOMAIN is zero to
+ *           a negative power, -Inf included (the result +Inf, or -Inf for -0 to an odd power), and a
+ *           finite negative number to a finite power that is no integer (NaN). Results that overflow
+ *           or underflow are not exceptional; their flags are raised.
+ * Special:  1 to any power, -1 to an infinite or NaN power, and any number to the power 0 give 1, NaN
+ *           included. From 2^53 (32f 2^24) on all numbers are even integers.
+ * Accuracy: 64f 0.5064 ulp, 99.92 % correctly rounded, for bases within 2.3e-5 of 1 under results
+ *           near the bounds of the type 0.55 ulp; 32f none of 10^6 misrounded.
+ * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400; T. J. Dekker, Numer. Math. 18 (1971) 224-242.
+ * @{ */
+int32_t daksPow_64f_A50(const double* src1, const double* src2, double* dst, int32_t len);
+int32_t daksPow_64f_A53(const double* src1, const double* src2, double* dst, int32_t len);
+int32_t daksPow_32f_A11(const float* src1, const float* src2, float* dst, int32_t len);
+int32_t daksPow_32f_A21(const float* src1, const float* src2, float* dst, int32_t len);
+int32_t daksPow_32f_A24(const float* src1, const float* src2, float* dst, int32_t len);
+/** @} */
+
+/** \name Power with one exponent
+ * dst[i] = src[i] ^ exponent: bit for bit the results, statuses and flags of the function above with
+ * the exponent repeated. A notification of an exceptional element gets the source array twice.
+ * @{ */
+int32_t daksPowx_64f_A50(const double* src, double exponent, double* dst, int32_t len);
+int32_t daksPowx_64f_A53(const double* src, double exponent, double* dst, int32_t len);
+int32_t daksPowx_32f_A11(const float* src, float exponent, float* dst, int32_t len);
+int32_t daksPowx_32f_A21(const float* src, float exponent, float* dst, int32_t len);
+int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t len);
+/** @} */
+
 /** Square root of one double, by a polynomial for the reciprocal root and one Newton step. The
  * result is returned without a last rounding, in 64 significant bits. Negative numbers and -Inf
  * give the NaN 0x7FF8A5A55A5A5A5A, -0 itself. No status, no notification. Accuracy after a store

@@ -52,6 +52,7 @@ constexpr Reference references[] = {
     {"Exp", mpfr_exp, nullptr},
     {"Ln", mpfr_log, nullptr},
     {"Log10", mpfr_log10, nullptr},
+    {"Pow", nullptr, mpfr_pow},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

@@ -39,6 +39,8 @@ template <class T>
 constexpr Word<T> exponent_mask = sizeof(T) == 8 ? Word<T>(0x7ff0000000000000)
                                                  : Word<T>(0x7f800000);
 template <class T>
+constexpr Word<T> quiet_bit = sizeof(T) == 8 ? Word<T>(0x0008000000000000) : Word<T>(0x00400000);
+template <class T>
 constexpr Word<T> sign_mask = Word<T>(1) << (8 * sizeof(T) - 1);
 
 template <class T>
@@ -74,7 +76,8 @@ std::vector<Word<T>> mixed_words(size_t count, double low, double high, double s
   return words;
 }
 
-// One element by itself: result words, status and flags.
+// One element by itself: result words, status and flags. `b` is the second source or the exponent;
+// an exponent is passed by value, where compilers differ about a signalling NaN: it is made quiet.
 template <class T>
 struct Single {
   Word<T> result[2] = {};
@@ -85,10 +88,11 @@ struct Single {
 template <class T>
 Single<T> evaluate_one(const registry::Function& function, const Word<T>& a, const Word<T>& b = 0) {
   Single<T> single;
+  const Word<T> exponent = is_nan<T>(b) ? b | quiet_bit<T> : b;
   clear_flags();
   single.status =
       function(registry::Operands<T>{numbers<T>(&a), numbers<T>(&b), numbers<T>(&single.result[0]),
-                                     numbers<T>(&single.result[1])},
+                                     numbers<T>(&single.result[1]), *numbers<T>(&exponent)},
                1);
   single.flags = raised_flags();
   return single;

@@ -63,7 +63,9 @@ class Call {
   }
   Single<T> single(int32_t i) const {
     return evaluate_one<T>(function_, sources_[0][static_cast<size_t>(i)],
-                           sources_[1][static_cast<size_t>(i)]);
+                           function_.family.form == Form::scalar_exponent
+                               ? word_of(static_cast<T>(function_.family.low))
+                               : sources_[1][static_cast<size_t>(i)]);
   }
   Word<T> result(int which, int32_t i) const {
     return destinations_[which][static_cast<size_t>(i + 1)];
