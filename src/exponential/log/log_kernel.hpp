@@ -88,7 +88,7 @@ template <class Table>
 struct SeriesElement {
   double m;  // in [sqrt(1/2), sqrt(2))
   int32_t E;
-  Ext s;
+  double f;  // m - 1, exact
   double g;  // f - z A(z)
   double sg;
 
@@ -106,15 +106,18 @@ struct SeriesElement {
 
   DAKVM_INLINE void sum_series(const Table& t) {
     settle(&t);
-    const Ext f = m - Ext{t.one};
-    s = f / (t.two + f);
+    const Ext fraction = m - Ext{t.one};
+    f = narrow<double>(fraction);
+    const Ext s = fraction / (t.two + fraction);
     const Ext z = s * s;
     g = narrow<double>(
-        f - z * ((((((t.a7 * z + t.a6) * z + t.a5) * z + t.a4) * z + t.a3) * z + t.a2) * z + t.a1));
+        fraction -
+        z * ((((((t.a7 * z + t.a6) * z + t.a5) * z + t.a4) * z + t.a3) * z + t.a2) * z + t.a1));
   }
-  DAKVM_INLINE void correct(const Table&) { sg = narrow<double>(s * g); }
+  // Divided once more: division runs beside the other operations, an 80-bit field would not.
+  DAKVM_INLINE void correct(const Table& t) { sg = narrow<double>(f / (t.two + Ext{f}) * g); }
   DAKVM_INLINE Ext rebuild(const Table& t) const {
-    const Ext h = (m - Ext{t.one}) - sg;
+    const Ext h = Ext{f} - sg;
     return join(t, static_cast<Ext>(E), h);
   }
 
