@@ -19,6 +19,7 @@
 #pragma once
 
 #include "exponential/pow/special.hpp"
+#include "x87/double_double.hpp"
 
 namespace dakvm::pow {
 
@@ -36,13 +37,6 @@ struct Table {
   double raise, lower;          // 2^200, 2^-200
 };
 static_assert(sizeof(Table) == 860 * sizeof(double));
-
-// A double as vh + vl of 26 bits each: c and d are the two roundings of the split.
-struct Split {
-  double c, d;
-
-  DAKVM_INLINE Ext high() const { return Ext{c} - d; }
-};
 
 template <class Context>
 struct Element {
@@ -74,25 +68,25 @@ struct Element {
   DAKVM_INLINE void reduce_once(const Context& context) {
     const Table& t = context.table;
     p1 = narrow<double>(Ext{m} * t.R1[i1]);
-    m_split.c = narrow<double>(Ext{t.splitter} * m);
+    m_split.multiply(m, t.splitter);
   }
   DAKVM_INLINE void reduce_twice(const Context& context) {
     const Table& t = context.table;
     i2 = ((Bits<double>::read(&p1).high & 0xfc00) + 0x400) >> 11;
     p2 = narrow<double>(Ext{m} * t.R1[i1] * t.R2[i2]);
-    m_split.d = narrow<double>(Ext{m_split.c} - m);
+    m_split.subtract(m);
   }
   DAKVM_INLINE void reduce_thrice(const Context& context) {
     const Table& t = context.table;
     i3 = ((Bits<double>::read(&p2).high & 0xff0) + 0x10) >> 5;
     const Ext product = Ext{t.R1[i1]} * t.R2[i2] * t.R3[i3];
     Rp = narrow<double>(product);
-    Rp_split.c = narrow<double>(product * t.splitter);
+    Rp_split.multiply(product, t.splitter);
     Hi = narrow<double>(Ext(E) + t.L1[i1][0] + t.L2[i2][0] + t.L3[i3][0]);
   }
   DAKVM_INLINE void take_remainder(const Context& context) {
     const Table& t = context.table;
-    Rp_split.d = narrow<double>(Ext{Rp_split.c} - Rp);
+    Rp_split.subtract(Rp);
     const Ext remainder = Ext{m} * Rp - t.K;
     u = narrow<double>(remainder);
     T = narrow<double>(Hi + remainder);
@@ -129,12 +123,12 @@ struct Element {
   }
   DAKVM_INLINE void split_factors(const Context& context) {
     const Table& t = context.table;
-    B_split.c = narrow<double>(Ext{t.splitter} * B);
-    y_split.c = narrow<double>(Ext{t.splitter} * y);
+    B_split.multiply(B, t.splitter);
+    y_split.multiply(y, t.splitter);
   }
   DAKVM_INLINE void split_rest(const Context&) {
-    B_split.d = narrow<double>(Ext{B_split.c} - B);
-    y_split.d = narrow<double>(Ext{y_split.c} - y);
+    B_split.subtract(B);
+    y_split.subtract(y);
   }
   DAKVM_INLINE void power(const Context& context) {
     const auto [Ehi, rest] = mantissa(context);
@@ -193,8 +187,10 @@ struct Element {
     const auto [Ehi, rest] = again.mantissa(context);
     const double lo = round_to_double(rest + (Ext{Ehi} - V));
     Split V_split;
-    V_split.c = round_to_double(Ext{t.splitter} * V);
-    V_split.d = round_to_double(Ext{V_split.c} - V);
+    V_split.multiply(V, t.splitter);
+    x87::settle(&V_split);
+    V_split.subtract(V);
+    x87::settle(&V_split);
     const double Vh = round_to_double(V_split.high());
     const double low_part =
         round_to_double((Ext{lo} + round_to_double(Ext{V} - Vh)) * scaled_by * g);

@@ -1,0 +1,39 @@
+// The parts of double-double arithmetic. A value is an unevaluated sum head + tail: the head a
+// double, the tail what its rounding left over. The errors below are exact where the unit works
+// with more bits than a double has.
+#pragma once
+
+#include "x87/x87.hpp"
+
+namespace dakvm::x87 {
+
+struct Sum {
+  double head;
+  Ext tail;
+};
+
+// a + b with |a| >= |b|. Source: T. J. Dekker, Numer. Math. 18 (1971) 224-242.
+DAKVM_INLINE Sum fast_two_sum(Ext a, Ext b) {
+  const double head = round_to_double(a + b);
+  return {head, b + (a - head)};
+}
+
+// a + b in any order. Source: D. E. Knuth, The Art of Computer Programming 2, 4.2.2, theorem B.
+DAKVM_INLINE Sum two_sum(Ext a, Ext b) {
+  const double head = round_to_double(a + b);
+  const Ext b_in_head = head - a;
+  return {head, (a - (head - b_in_head)) + (b - b_in_head)};
+}
+
+// The head of few bits that Dekker's split takes from x. With a splitter 2^k + 1, or 2^k, it has
+// 53 - k bits, so that products of heads are exact; the rest x - head is exact as well. Its two
+// roundings are fields of an element, each stored in a stage of its own.
+struct Split {
+  double product, remainder;
+
+  DAKVM_INLINE void multiply(Ext x, Ext splitter) { product = narrow<double>(splitter * x); }
+  DAKVM_INLINE void subtract(Ext x) { remainder = narrow<double>(product - x); }
+  DAKVM_INLINE Ext high() const { return Ext{product} - remainder; }
+};
+
+}  // namespace dakvm::x87
