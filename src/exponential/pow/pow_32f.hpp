@@ -39,23 +39,27 @@ struct Element32 {
   int32_t E;
   uint32_t row, sign;
 
-  DAKVM_INLINE void start_at(Bits<float> x, const float* exponent, bool negative,
-                             int32_t raised = 0) {
+  // |x| is normal here: what makes a subnormal x normal is 2^raised.
+  DAKVM_INLINE void take_base(Bits<float> x, int32_t raised = 0) {
     const uint32_t magnitude = x.magnitude();
     E = (static_cast<int32_t>(magnitude - 0x3f348000) >> 23) - raised;
     row = ((magnitude & 0x7fffff) + 0x8000) >> 16;
-    sign = negative ? 0x80000000 : 0;
     put_word(m, (magnitude & 0x7fffff) | 0x3f800000);
+  }
+  DAKVM_INLINE void take_exponent(const float* exponent, bool negative) {
+    sign = negative ? 0x80000000 : 0;
     y = narrow<float>(Ext{*exponent});
   }
   DAKVM_INLINE void start(const Context&, const float* x, const float* exponent) {
     const auto bits = Bits<float>::read(x);
-    start_at(bits, exponent,
-             bits.is_negative() && kind_of(Bits<float>::read(exponent)) == Integer::odd);
+    take_base(bits);
+    take_exponent(exponent,
+                  bits.is_negative() && kind_of(Bits<float>::read(exponent)) == Integer::odd);
   }
   DAKVM_INLINE void start(const Context& context, const float* x) {
     const auto bits = Bits<float>::read(x);
-    start_at(bits, &context.y, bits.is_negative() && context.kind == Integer::odd);
+    take_base(bits);
+    take_exponent(&context.y, bits.is_negative() && context.kind == Integer::odd);
   }
 
   DAKVM_INLINE void logarithm(const Context& context) {
@@ -106,19 +110,31 @@ struct Element32 {
   }
 };
 
+// The general path for any finite x but 0 and 1: first x, then y.
 template <class Context>
-[[gnu::cold, gnu::noinline]] Status apply_specially(const Context& context, const float* x,
-                                                    const float* y, float* z) {
-  return settle_special<float>(context.table, x, y, z, [&](bool negative) {
-    Element32<Context> element;
-    const auto bits = Bits<float>::read(x);
-    if (bits.exponent() == 0) {
-      const float normal = round_to_float(Ext{*x} * context.table.raise);
-      element.start_at(Bits<float>::read(&normal), y, negative, 64);
-    } else {
-      element.start_at(bits, y, negative);
-    }
-    return Element32<Context>::Stages::run(element, context);
+Element32<Context> _gaxScalarPowfX(const Context& context, const float* x) {
+  Element32<Context> element;
+  const auto bits = Bits<float>::read(x);
+  if (bits.exponent() == 0) {
+    const float normal = round_to_float(Ext{*x} * context.table.raise);
+    element.take_base(Bits<float>::read(&normal), 64);
+  } else {
+    element.take_base(bits);
+  }
+  return element;
+}
+template <class Context>
+Ext _gaxScalarPowfY(const Context& context, Element32<Context> element, const float* y,
+                    bool negative) {
+  element.take_exponent(y, negative);
+  return Element32<Context>::Stages::run(element, context);
+}
+
+template <class Context>
+[[gnu::cold, gnu::noinline]] Status _gaxsPow_HA_scalar(const Context& context, const float* x,
+                                                       const float* y, float* z) {
+  return pow_scalar<float>(context.table, x, y, z, [&](bool negative) {
+    return _gaxScalarPowfY(context, _gaxScalarPowfX(context, x), y, negative);
   });
 }
 
@@ -132,7 +148,7 @@ struct PowKernel32 {
   }
   DAKVM_INLINE static Status apply(const Varying<Table32>& context, const float* x, const float* y,
                                    float* z) {
-    return apply_specially(context, x, y, z);
+    return _gaxsPow_HA_scalar(context, x, y, z);
   }
 };
 
@@ -146,7 +162,7 @@ struct PowxKernel32 {
            (!x.is_negative() || context.kind != Integer::no);
   }
   DAKVM_INLINE static Status apply(const Context& context, const float* x, float* z) {
-    return apply_specially(context, x, &context.y, z);
+    return _gaxsPow_HA_scalar(context, x, &context.y, z);
   }
 };
 

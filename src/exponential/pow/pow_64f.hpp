@@ -38,8 +38,33 @@ struct Table {
 };
 static_assert(sizeof(Table) == 860 * sizeof(double));
 
+// Powx takes y apart once, with the first element that needs it: done earlier, it would raise
+// inexact in a call where no element does.
+struct FixedAndSplit : Fixed<double, Table> {
+  using Fixed::Fixed;
+  mutable Split y_split{0, 0};
+  mutable bool is_split = false;
+
+  DAKVM_INLINE void split_once() const {
+    if (!is_split) [[unlikely]]
+      split();
+  }
+
+ private:
+  [[gnu::cold, gnu::noinline]] void split() const {
+    is_split = true;
+    // Every x takes a smaller or larger y out of the chain.
+    if (Bits<double>::read(&y).exponent() - 952 > 1087 - 952) return;
+    y_split.multiply(y, table.splitter);
+    settle(&y_split);
+    y_split.subtract(y);
+  }
+};
+
 template <class Context>
 struct Element {
+  static constexpr bool one_exponent = std::is_same_v<Context, FixedAndSplit>;
+
   double m, y, p1, p2, Rp, Hi, u, T, B, t2a, t2b, V, scale;
   Split m_split, Rp_split, B_split, y_split;
   int32_t E, M, far;
@@ -62,6 +87,7 @@ struct Element {
   }
   DAKVM_INLINE void start(const Context& context, const double* x) {
     const auto bits = Bits<double>::read(x);
+    context.split_once();
     start_at(bits, &context.y, bits.is_negative() && context.kind == Integer::odd);
   }
 
@@ -124,11 +150,11 @@ struct Element {
   DAKVM_INLINE void split_factors(const Context& context) {
     const Table& t = context.table;
     B_split.multiply(B, t.splitter);
-    y_split.multiply(y, t.splitter);
+    if constexpr (!one_exponent) y_split.multiply(y, t.splitter);
   }
   DAKVM_INLINE void split_rest(const Context&) {
     B_split.subtract(B);
-    y_split.subtract(y);
+    if constexpr (!one_exponent) y_split.subtract(y);
   }
   DAKVM_INLINE void power(const Context& context) {
     const auto [Ehi, rest] = mantissa(context);
@@ -141,6 +167,13 @@ struct Element {
   }
 
  private:
+  DAKVM_INLINE const Split& split_of_y(const Context& context) const {
+    if constexpr (one_exponent)
+      return context.y_split;
+    else
+      return y_split;
+  }
+
   // V in two parts.
   struct Parts {
     double Ehi;
@@ -149,7 +182,7 @@ struct Element {
   DAKVM_INLINE Parts mantissa(const Context& context) {
     const Table& t = context.table;
     const Ext Bh = B_split.high(), Bl = B - Bh;
-    const Ext yh = y_split.high(), yl = y - yh;
+    const Ext yh = split_of_y(context).high(), yl = y - yh;
     const Ext P = yh * Bh;
     const double Z = round_to_double(t.shifter + P);
     const auto N = static_cast<int32_t>(low_word(Z));
@@ -208,6 +241,7 @@ struct Element {
 template <class Context>
 Ext general(const Context& context, const double* x, const double* y, bool negative) {
   const Table& t = context.table;
+  if constexpr (Element<Context>::one_exponent) context.split_once();
   Element<Context> element;
   auto bits = Bits<double>::read(x);
   if (bits.exponent() == 0) {
@@ -220,10 +254,10 @@ Ext general(const Context& context, const double* x, const double* y, bool negat
 }
 
 template <class Context>
-[[gnu::cold, gnu::noinline]] Status apply_specially(const Context& context, const double* x,
-                                                    const double* y, double* z) {
-  return settle_special<double>(context.table, x, y, z,
-                                [&](bool negative) { return general(context, x, y, negative); });
+[[gnu::cold, gnu::noinline]] Status _gaxdPow_HA_scalar(const Context& context, const double* x,
+                                                       const double* y, double* z) {
+  return pow_scalar<double>(context.table, x, y, z,
+                            [&](bool negative) { return general(context, x, y, negative); });
 }
 
 struct PowKernel64 {
@@ -236,12 +270,12 @@ struct PowKernel64 {
   }
   DAKVM_INLINE static Status apply(const Varying<Table>& context, const double* x, const double* y,
                                    double* z) {
-    return apply_specially(context, x, y, z);
+    return _gaxdPow_HA_scalar(context, x, y, z);
   }
 };
 
 struct PowxKernel64 {
-  using Context = Fixed<double, Table>;
+  using Context = FixedAndSplit;
   using Element = pow::Element<Context>;
   using Stages = Element::Stages;
 
@@ -250,7 +284,7 @@ struct PowxKernel64 {
            (!x.is_negative() || context.kind != Integer::no);
   }
   DAKVM_INLINE static Status apply(const Context& context, const double* x, double* z) {
-    return apply_specially(context, x, &context.y, z);
+    return _gaxdPow_HA_scalar(context, x, &context.y, z);
   }
 };
 

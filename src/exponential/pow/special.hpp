@@ -71,10 +71,10 @@ DAKVM_INLINE bool is_general(Bits<float> x) {
 DAKVM_INLINE bool is_unit(Bits<double> x) { return x.magnitude() == 0x3ff00000 && x.low == 0; }
 DAKVM_INLINE bool is_unit(Bits<float> x) { return x.magnitude() == 0x3f800000; }
 
-// Stores x^y; `general(negative)` is asked for the cases that need a logarithm, x subnormal
-// included.
+// Stores x^y for any two numbers; `general(negative)` is asked for the cases that need a logarithm,
+// x subnormal included.
 template <class T, class Table, class General>
-DAKVM_INLINE Status settle_special(const Table& t, const T* x, const T* y, T* z, General general) {
+DAKVM_INLINE Status pow_scalar(const Table& t, const T* x, const T* y, T* z, General general) {
   const auto xb = Bits<T>::read(x), yb = Bits<T>::read(y);
   const auto kind = kind_of(yb);
   const bool negative = xb.is_negative() && kind == Integer::odd;
