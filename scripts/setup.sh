@@ -3,13 +3,15 @@
 #
 #   scripts/setup.sh build    what the 32-bit library and the dakvm command are built with (default)
 #   scripts/setup.sh test     that, and what the tests need
-#   scripts/setup.sh bench    that of build, and Google Benchmark for 32 bits, which Debian has only
-#                             in the foreign architecture i386: it is added when it is not there
+#   scripts/setup.sh bench    that of build, and what `dakvm bench` and its documents need: Google
+#                             Benchmark for both word sizes, of which Debian has the one for 32
+#                             bits only in the foreign architecture i386 (added when it is not
+#                             there); gnuplot; SLEEF
 set -euo pipefail
 
 build_packages=(cmake make g++ g++-multilib libc6-dev-i386 lib32gomp1 libcli11-dev)
 test_packages=(googletest libmpfr-dev pkg-config binutils)
-bench_packages=(libbenchmark-dev:i386)
+bench_packages=(libbenchmark-dev:i386 libbenchmark-dev:amd64 gnuplot-nox libsleef-dev)
 update_tries=3
 
 fail() {

@@ -7,6 +7,9 @@
 #include "evaluate.hpp"
 #include "functions.hpp"
 #include "summary.hpp"
+#ifdef DAKVM_BENCH
+#include "bench/command.hpp"
+#endif
 
 namespace dakvm::tool {
 namespace {
@@ -123,6 +126,19 @@ void run(int argc, char** argv) {
   CLI::App* eval = app.add_subcommand("eval", "Evaluate a function over a file");
   describe_eval(*eval, arguments);
   eval->callback([&] { run_eval(arguments); });
+
+#ifdef DAKVM_BENCH
+  bench::describe(app);
+#else
+  app.add_subcommand("bench", "Time the functions (not in this build)")
+      ->allow_extras()
+      ->callback([] {
+        throw Error(Exit::usage,
+                    "this build has no benchmark: run scripts/setup.sh bench, then "
+                    "cmake --preset bench && cmake --build --preset bench; "
+                    "build/bench/dakvm has it");
+      });
+#endif
 
   try {
     app.parse(argc, argv);
