@@ -1,6 +1,7 @@
 # Installation: component runtime is the shared library, component development all that is needed to
 # build against it, with CMake (package dakvmpx) or with pkg-config (dakvmpx.pc). Both find their
-# files relative to themselves, so the installed tree can be staged, moved and packaged.
+# files relative to themselves, so the installed tree can be staged, moved and packaged. Component
+# tools is the commands, python the module for NumPy.
 include(CMakePackageConfigHelpers)
 
 install(
@@ -9,7 +10,8 @@ install(
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(
-  FILES ${PROJECT_SOURCE_DIR}/include/dakvmpx.h
+  FILES ${PROJECT_SOURCE_DIR}/include/dakvmpx.h ${PROJECT_SOURCE_DIR}/include/dakvmpx.hpp
+        ${PROJECT_SOURCE_DIR}/bindings/fortran/dakvmpx.f90
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
   COMPONENT development)
 
@@ -17,13 +19,15 @@ install(
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/dakvmpx)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/dakvmpxConfigVersion.cmake
                                  COMPATIBILITY SameMajorVersion)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/dakvmpxConfig.cmake.in
+               ${PROJECT_BINARY_DIR}/dakvmpxConfig.cmake @ONLY)
 install(
-  FILES ${PROJECT_BINARY_DIR}/dakvmpxConfigVersion.cmake
+  FILES ${PROJECT_BINARY_DIR}/dakvmpxConfig.cmake ${PROJECT_BINARY_DIR}/dakvmpxConfigVersion.cmake
   DESTINATION ${package_dir}
   COMPONENT development)
 install(
   EXPORT dakvmpx
-  FILE dakvmpxConfig.cmake
+  FILE dakvmpxTargets.cmake
   NAMESPACE dakvmpx::
   DESTINATION ${package_dir}
   COMPONENT development)
@@ -37,6 +41,17 @@ install(
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)
 
+# Python loads a library of its own word size.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(DAKVM_PYTHON_DIR lib/python3/dist-packages CACHE STRING "Where the Python module goes")
+  install(
+    DIRECTORY ${PROJECT_SOURCE_DIR}/bindings/python/dakvmpx
+    DESTINATION ${DAKVM_PYTHON_DIR}
+    COMPONENT python
+    FILES_MATCHING
+    PATTERN "*.py")
+endif()
+
 install(
   FILES ${PROJECT_SOURCE_DIR}/LICENSE
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
@@ -44,12 +59,12 @@ install(
 install(
   FILES ${PROJECT_SOURCE_DIR}/README.md
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
-  COMPONENT development
-  OPTIONAL)
+  COMPONENT development)
 install(
   DIRECTORY ${PROJECT_SOURCE_DIR}/docs/
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT development
-  OPTIONAL
   FILES_MATCHING
-  PATTERN "*.md")
+  PATTERN "*.md"
+  PATTERN "*.svg")
+include(${CMAKE_CURRENT_LIST_DIR}/packages.cmake)

@@ -27,6 +27,20 @@ echo "== find_package, shared and static"
 "$work/cmake/consumer_shared"
 "$work/cmake/consumer_static"
 
+echo "== find_package knows its components"
+if "$cmake" -S "$source" -B "$work/component" -DCMAKE_C_COMPILER="$cc" \
+  -DCMAKE_PREFIX_PATH="$prefix" -DCOMPONENTS="shared;nonsense" >"$work/component.log" 2>&1; then
+  fail "component nonsense was accepted"
+fi
+grep -q 'no component nonsense' "$work/component.log" || fail "$(cat "$work/component.log")"
+
+echo "== add_subdirectory; not optimised, to save the time of a whole build"
+"$cmake" -S "$source" -B "$work/subdirectory" -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_FLAGS="$flags" \
+  -DCMAKE_BUILD_TYPE=Debug -DSUBDIRECTORY="$(cd "$(dirname "$0")/../.." && pwd)"
+"$cmake" --build "$work/subdirectory" -j2
+"$work/subdirectory/consumer_shared"
+"$work/subdirectory/consumer_static"
+
 echo "== find_package refuses another pointer size"
 if CFLAGS=$other_size "$cmake" -S "$source" -B "$work/mismatch" -DCMAKE_C_COMPILER="$cc" \
   -DCMAKE_PREFIX_PATH="$prefix" >"$work/mismatch.log" 2>&1; then
@@ -42,3 +56,7 @@ from_pc=$(pkg-config --cflags --libs dakvmpx)
 "$cc" $flags -std=c99 -Wall -Wextra -Wpedantic -Werror "$source/consumer.c" $from_pc \
   -o "$work/consumer_pkg"
 LD_LIBRARY_PATH=$prefix/$libdir "$work/consumer_pkg"
+# shellcheck disable=SC2086
+c++ $flags -std=c++20 -Wall -Wextra -Wpedantic -Werror "$source/consumer.cpp" $from_pc \
+  -o "$work/consumer_cpp"
+LD_LIBRARY_PATH=$prefix/$libdir "$work/consumer_cpp"
