@@ -6,17 +6,14 @@
 //                cosh(a) = S cosh(r) + D sinh(r),  sinh(a) = D cosh(r) + S sinh(r)
 //            where cosh(r) - 1 and sinh(r) - r are the even and the odd part of the polynomial for
 //            e^r - 1 - r.
-// Exactness  step_hi has 36 significant bits and N < 2^17, so N step_hi and a - N step_hi are
-// exact,
-//            and the latter fits a double. up and down are table rows times a power of two. In the
-//            accurate sinh r = r1 + r2 with r1 a multiple of 2^-18 of 11 bits: S r1 has 64 bits,
-//            and both sums that make the leading part are compensated.
+// Exactness  step_hi has 36 significant bits and N < 2^17, so N step_hi is exact; so is
+//            a - N step_hi, which fits a double. up and down are table rows times a power of two.
+//            In sinh A53 r = r1 + r2 with r1 a multiple of 2^-18 of 11 bits: S r1 has 64 bits, and
+//            both sums that make the leading part are compensated.
 // Error      sinh A53: the terms behind the leading part stay below 2^-13 of it, rounded once, and
 //            the sum is rounded to 64 bits before the store.
 //            cosh A53: the bracket, up to 2^-7.5 of S, is rounded to double.
-//            A50: half an ulp of the table, where it is read without its second part; 2^-53 of the
-//            polynomial.
-//            From 31 ln2 on all are the exponential, with polynomials of error 2^-62 (A50 2^-53).
+//            A50: polynomial 2^-53; cosh, and both from 31 ln2 on, take the table's rounding.
 //            Largest seen, up to 31 ln2 and beyond: sinh A53 0.5003, 0.5027 ulp; A50 0.534, 1.008;
 //            cosh A53 0.5039, 0.5027; A50 1.046, 1.008.
 // Special    NaN, infinities, tiny arguments, overflow; sinh near zero, where D cancels, and both
