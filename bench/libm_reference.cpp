@@ -28,6 +28,9 @@ constexpr auto Ln = DAKVM_LIBM(log);
 constexpr auto Log10 = DAKVM_LIBM(log10);
 constexpr auto Pow = DAKVM_LIBM(pow);
 constexpr auto Powx = Pow;
+constexpr auto Sinh = DAKVM_LIBM(sinh);
+constexpr auto Cosh = DAKVM_LIBM(cosh);
+constexpr auto Tanh = DAKVM_LIBM(tanh);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -53,6 +53,9 @@ constexpr Reference references[] = {
     {"Ln", mpfr_log, nullptr},
     {"Log10", mpfr_log10, nullptr},
     {"Pow", nullptr, mpfr_pow},
+    {"Sinh", mpfr_sinh, nullptr},
+    {"Cosh", mpfr_cosh, nullptr},
+    {"Tanh", mpfr_tanh, nullptr},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

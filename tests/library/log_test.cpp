@@ -1,5 +1,6 @@
 // Logarithms: special arguments, both sides of every bound, exact results.
 #include "arrays.hpp"
+#include "properties.hpp"
 
 namespace dakvm::test {
 namespace {
@@ -58,24 +59,7 @@ TEST(Log, KnownResults) {
                       {{1, 0xc23369f4, ok, inexact}, {inf_f - 1, 0x421a209b, ok, inexact}});
 }
 
-// Where the path changes - around one, at sqrt(2), at the ends of a row, at the least normal number
-// - results do not fall as the argument grows, and no status is set.
-template <class T>
-void expect_no_fall(const registry::Function& function, Word<T> around) {
-  SCOPED_TRACE(std::string(function.name) + " at " + ::testing::PrintToString(around));
-  const auto place = [](Word<T> word) {
-    const auto magnitude = static_cast<int64_t>(word & ~sign_mask<T>);
-    return word & sign_mask<T> ? -magnitude : magnitude;
-  };
-  int64_t last = INT64_MIN;
-  for (Word<T> x = around - 60; x != around + 60; ++x) {
-    const auto got = evaluate_one<T>(function, x);
-    EXPECT_EQ(got.status, ok);
-    EXPECT_GE(place(got.result[0]), last);
-    last = place(got.result[0]);
-  }
-}
-
+// Around one, at sqrt(2), at the ends of a row, at the least normal number.
 TEST(Log, PathsMeet) {
   for (const auto& function : registry::functions) {
     if (function.family.name != "Ln" && function.family.name != "Log10") continue;

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <iterator>
 
 namespace gentables {
 
@@ -37,6 +38,12 @@ class Real {
   double nearest(int bits) const {
     Real copy = *this;
     mpfr_prec_round(copy.value_, bits, MPFR_RNDN);
+    return copy.nearest();
+  }
+  // The first `bits` significant bits.
+  double toward_zero(int bits) const {
+    Real copy = *this;
+    mpfr_prec_round(copy.value_, bits, MPFR_RNDZ);
     return copy.nearest();
   }
   // The nearest multiple of 2^exponent.
@@ -78,8 +85,18 @@ GENTABLES_FUNCTION(expm1, mpfr_expm1)
 GENTABLES_FUNCTION(log, mpfr_log)
 GENTABLES_FUNCTION(log2, mpfr_log2)
 GENTABLES_FUNCTION(cos, mpfr_cos)
+GENTABLES_FUNCTION(sinh, mpfr_sinh)
+GENTABLES_FUNCTION(tanh, mpfr_tanh)
 GENTABLES_FUNCTION(abs, mpfr_abs)
 #undef GENTABLES_FUNCTION
+
+// A polynomial, its coefficients from the constant up.
+template <class Coefficients>
+Real horner(const Coefficients& c, const Real& x) {
+  Real sum;
+  for (size_t k = std::size(c); k-- > 0;) sum = sum * x + Real(c[k]);
+  return sum;
+}
 
 inline Real ln2() {
   Real result;

@@ -1,0 +1,14 @@
+// daksTanh_64f_A53: tanh(x) over an array, double precision, high-accuracy grade.
+#include "hyperbolic/tanh/tanh_kernel.hpp"
+
+namespace {
+constexpr char _GAX_THISFUNC_NAME[] = "";
+constexpr dakvm::tanh::Table _gaxdTanhHATab = {
+#include "hyperbolic/tanh/tanh_ha_64f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksTanh_64f_A53(const double* src, double* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::tanh::Kernel<double>>(src, dst, len, _gaxdTanhHATab,
+                                                        _GAX_THISFUNC_NAME);
+}
