@@ -7,10 +7,10 @@
 //            rows make the same sum of other numbers: y (C + A y^2 + y^4 Q(y^2)) with C =
 //            2/sqrt(pi) and A = -C/3 in two parts; 1 + 2^-200. So no ordinary argument takes
 //            another path.
-// Exactness  A float's 24 bits are the head of a value, its difference from the value the tail. a is
-//            a power of two and b a multiple of 1/2, so a y + b is exact; in the last row it is off
-//            by 2^-61, where c1 is 2^-44. c2 has 26 bits: th c2 and th s are exact, s the head of
-//            c1 + t c2; so is the error of c0 + th s.
+// Exactness  A float's 24 bits are the head of a value, its difference from the value the tail. So
+//            that a y + b is exact, a is a power of two and b a multiple of 1/2; in the last row it
+//            is off by 2^-61, where c1 is 2^-44. c2 has 26 bits: th c2 and th s are exact, s the
+//            head of c1 + t c2; so is the error of c0 + th s.
 // Error      The polynomials 2^-63.8 or less, in [4, 5] 2^-59.9; tails 2^-77; the rounding of 64
 //            bits before the store. Largest seen 0.5084 ulp in [4, 5], 0.5003 ulp elsewhere.
 // Special    Zeros, |x| < 2^-100, infinities, NaN: apply. Subnormal results round once.

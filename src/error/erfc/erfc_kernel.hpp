@@ -17,8 +17,8 @@
 //            Subnormal results are rounded once. Largest seen 0.5003 ulp.
 // Special    NaN, infinities, |x| < 2^-70, results 2 (x <= -5.86...), subnormal results
 //            (x >= 26.54...), underflow (x >= 27.22..., 32f 10.05...): apply.
-// Source     Rows: tools/gentables/erfc.cpp. Exponential: P. T. P. Tang, ACM TOMS 15 (1989)
-// 144-157.
+// Source     P. T. P. Tang, ACM TOMS 15 (1989) 144-157, for the exponential. Rows:
+//            tools/gentables/erfc.cpp.
 #pragma once
 
 #include "frame/frame.hpp"
