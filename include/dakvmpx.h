@@ -236,7 +236,7 @@ int32_t daksErf_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   all numbers. From 27.226 (32f 10.054) on DAKVM_STATUS_UNDERFLOW, the result +0. Subnormal
  *           results and infinite arguments are not exceptional.
- * Accuracy: 64f 0.5003 ulp, 99.96 % correctly rounded, subnormal results included; 32f none of the
+ * Accuracy: 64f 0.5004 ulp, 99.96 % correctly rounded, subnormal results included; 32f none of the
  *           2^31 negative arguments misrounded.
  * Source:   as above; the exponential: P. T. P. Tang, ACM TOMS 15 (1989) 144-157.
  * @{ */

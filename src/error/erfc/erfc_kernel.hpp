@@ -14,7 +14,7 @@
 //            has 36 bits and N 17, so N step_hi is exact, and the square of the head of y too.
 // Error      Fits 2^-69.7 or less, in row 5 2^-64.3; the terms of c4 and c5 in one register 2^-69,
 //            tails 2^-77, q in a register 2^-71.5; the rounding of 64 bits before the store.
-//            Subnormal results are rounded once. Largest seen 0.5003 ulp.
+//            Subnormal results are rounded once. Largest seen 0.5004 ulp.
 // Special    NaN, infinities, |x| < 2^-70, results 2 (x <= -5.86...), subnormal results
 //            (x >= 26.54...), underflow (x >= 27.22..., 32f 10.05...): apply.
 // Source     P. T. P. Tang, ACM TOMS 15 (1989) 144-157, for the exponential. Rows:
