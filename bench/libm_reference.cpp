@@ -31,6 +31,8 @@ constexpr auto Powx = Pow;
 constexpr auto Sinh = DAKVM_LIBM(sinh);
 constexpr auto Cosh = DAKVM_LIBM(cosh);
 constexpr auto Tanh = DAKVM_LIBM(tanh);
+constexpr auto Erf = DAKVM_LIBM(erf);
+constexpr auto Erfc = DAKVM_LIBM(erfc);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -67,6 +67,12 @@ struct Bits<float> {
   DAKVM_INLINE uint32_t lead() const { return word; }
 };
 
+// |x| as a double, for normal x.
+DAKVM_INLINE Bits<double> widened_magnitude(Bits<double> x) { return {x.low, x.magnitude()}; }
+DAKVM_INLINE Bits<double> widened_magnitude(Bits<float> x) {
+  return {x.word << 29, (x.magnitude() >> 3) + ((Bits<double>::bias - Bits<float>::bias) << 20)};
+}
+
 // The low word of a stored sum with a shifter: an integer in two's complement.
 DAKVM_INLINE uint32_t low_word(const double& stored) { return Bits<double>::read(&stored).low; }
 

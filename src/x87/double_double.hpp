@@ -36,4 +36,17 @@ struct Split {
   DAKVM_INLINE Ext high() const { return Ext{product} - remainder; }
 };
 
+// The head of Dekker's split at once, where time does not count.
+DAKVM_INLINE Ext head_of(Ext x, Ext splitter) {
+  const double product = round_to_double(splitter * x);
+  return product - Ext{round_to_double(product - x)};
+}
+
+// (a + b) factor where that is a subnormal double and factor a power of two: the head of the sum
+// stays exact when it is scaled down, so that only the rest is rounded, and once.
+DAKVM_INLINE Ext scaled_to_subnormal(Ext a, Ext b, Ext splitter, Ext factor) {
+  const Ext head = head_of(a + b, splitter);
+  return head * factor + round_to_double(((a - head) + b) * factor);
+}
+
 }  // namespace dakvm::x87

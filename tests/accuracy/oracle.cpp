@@ -56,6 +56,8 @@ constexpr Reference references[] = {
     {"Sinh", mpfr_sinh, nullptr},
     {"Cosh", mpfr_cosh, nullptr},
     {"Tanh", mpfr_tanh, nullptr},
+    {"Erf", mpfr_erf, nullptr},
+    {"Erfc", mpfr_erfc, nullptr},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

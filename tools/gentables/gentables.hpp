@@ -40,8 +40,8 @@ class Real {
     mpfr_prec_round(copy.value_, bits, MPFR_RNDN);
     return copy.nearest();
   }
-  // The first `bits` significant bits.
-  double toward_zero(int bits) const {
+  // Cut, not rounded, to `bits` significant bits.
+  double cut(int bits) const {
     Real copy = *this;
     mpfr_prec_round(copy.value_, bits, MPFR_RNDZ);
     return copy.nearest();
@@ -88,6 +88,9 @@ GENTABLES_FUNCTION(cos, mpfr_cos)
 GENTABLES_FUNCTION(sinh, mpfr_sinh)
 GENTABLES_FUNCTION(tanh, mpfr_tanh)
 GENTABLES_FUNCTION(abs, mpfr_abs)
+GENTABLES_FUNCTION(exp, mpfr_exp)
+GENTABLES_FUNCTION(erf, mpfr_erf)
+GENTABLES_FUNCTION(erfc, mpfr_erfc)
 #undef GENTABLES_FUNCTION
 
 // A polynomial, its coefficients from the constant up.
@@ -126,8 +129,7 @@ inline void check_error(const Real& error, double log2_bound, const char* what) 
 
 // The largest |error(x)| on a grid over [low, high].
 inline Real largest(const Real& low, const Real& high,
-                    const std::function<Real(const Real&)>& error) {
-  constexpr int steps = 400;
+                    const std::function<Real(const Real&)>& error, int steps = 400) {
   Real worst;
   for (int i = 0; i <= steps; ++i) {
     const Real e = abs(error(low + (high - low) * Real(i) / Real(steps)));

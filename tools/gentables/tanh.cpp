@@ -40,7 +40,7 @@ std::vector<Real> interpolate(const F& f) {
 struct Pair {
   double hi, lo;
 
-  Pair(const Real& x, int bits) : hi(x.toward_zero(bits)), lo((x - Real(hi)).nearest()) {}
+  Pair(const Real& x, int bits) : hi(x.cut(bits)), lo((x - Real(hi)).nearest()) {}
   Real sum() const { return Real(hi) + Real(lo); }
 };
 

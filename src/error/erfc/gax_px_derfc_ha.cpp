@@ -1,0 +1,14 @@
+// daksErfc_64f_A53: erfc(x) over an array, double precision, high-accuracy grade.
+#include "error/erfc/erfc_kernel.hpp"
+
+namespace {
+constexpr char _GAX_THISFUNC_NAME[] = "";
+constexpr dakvm::erfc::Table _gaxdErfcHATab = {
+#include "error/erfc/erfc_ha_64f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksErfc_64f_A53(const double* src, double* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::erfc::Kernel<double>>(src, dst, len, _gaxdErfcHATab,
+                                                        _GAX_THISFUNC_NAME);
+}

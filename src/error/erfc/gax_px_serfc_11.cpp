@@ -1,0 +1,14 @@
+// daksErfc_32f_A11: erfc(x) over an array, single precision, 11-bit grade.
+#include "error/erfc/erfc_kernel.hpp"
+
+namespace {
+constexpr char _GAX_THISFUNC_NAME[] = "";
+constexpr dakvm::erfc::Table _gaxdErfcHATab = {
+#include "error/erfc/erfc_ha_32f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksErfc_32f_A11(const float* src, float* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::erfc::Kernel<float>>(src, dst, len, _gaxdErfcHATab,
+                                                       _GAX_THISFUNC_NAME);
+}
