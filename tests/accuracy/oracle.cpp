@@ -53,6 +53,10 @@ constexpr Reference references[] = {
     {"Ln", mpfr_log, nullptr},
     {"Log10", mpfr_log10, nullptr},
     {"Pow", nullptr, mpfr_pow},
+    {"Atan", mpfr_atan, nullptr},
+    {"atan", mpfr_atan, nullptr},
+    {"Atan2", nullptr, mpfr_atan2},
+    {"atan2", nullptr, mpfr_atan2},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

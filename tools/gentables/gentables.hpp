@@ -78,6 +78,7 @@ GENTABLES_FUNCTION(expm1, mpfr_expm1)
 GENTABLES_FUNCTION(log, mpfr_log)
 GENTABLES_FUNCTION(log2, mpfr_log2)
 GENTABLES_FUNCTION(cos, mpfr_cos)
+GENTABLES_FUNCTION(atan, mpfr_atan)
 GENTABLES_FUNCTION(abs, mpfr_abs)
 #undef GENTABLES_FUNCTION
 
