@@ -7,7 +7,7 @@
 //            atan(t) = t + t s P(s),  s = t^2,  P of degree 6.
 // Exactness  hi has 26 bits. c has 3, so that its products with doubles have at most 56 and are
 //            exact.
-// Error      polynomial 2^-62.5 of t at worst, at |t| = 0.125.
+// Error      polynomial 2^-61.8 of t at worst, at |t| = 0.125.
 // Source     Table and polynomial: tools/gentables/atan.cpp.
 #pragma once
 

@@ -1,19 +1,17 @@
 // The angle of the point (b, a) for one element; every grade and both types share this file.
 //
-// Method     A = |a| 2^-k in [1, 2), B = |b| 2^-k, q = A/B. With the breakpoint c of q (arc.hpp)
-// the
-//            reduced argument is formed without the quotient,
+// Method     A = |a| 2^-k in [1, 2), B = |b| 2^-k, q = A/B. With the breakpoint c of q (arc.hpp),
+//            the reduced argument is formed without the quotient,
 //                t = N/D,  N = A - c B,  D = B + c A
 //            and V = hi + lo + t + t s P(s) is the angle in the first quadrant. The result is
 //            V - O, times `side`: O is 0 and side 1 for b > 0, O is pi and side -1 for b < 0; then
 //            the sign of a.
 //            t = t1 + t2: t1 is the quotient in 24 bits, t2 what the residual N - t1 D adds.
-// Exactness  c B and c A have 56 bits, N cancels into 56. D1 has 24 bits, so t1 D1 is exact, and
-// D2,
+// Exactness  c B and c A have 56 bits, N cancels into 56. D1 has 24 bits, so t1 D1 is exact; D2,
 //            the rest of D, is known to 2^-88 of D. W is the rounded sum of O, hi and t1; what it
 //            lost is computed to 2^-115.
-// Error      t is off by 2^-84 of itself. Below q = 1/8 the polynomial decides, 0.503 ulp in double
-//            precision; elsewhere one rounding of 64 bits before the store.
+// Error      t is off by 2^-84 of itself. Below q = 1/8 the polynomial decides, 0.5023 ulp of a
+//            double; elsewhere one rounding of 64 bits before the store.
 // Special    NaN, infinities, zeros, subnormal numbers, exponents that differ by 54 or more: apply.
 // Source     Table: tools/gentables/atan.cpp.
 #pragma once
