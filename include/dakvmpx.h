@@ -220,7 +220,7 @@ int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t l
  * Domain:   all numbers; no argument is exceptional. Infinities give pi/2 with their sign, zeros
  *           themselves. atan(-x) is -atan(x) bit for bit. A NaN comes back quiet, from the 32f
  *           functions with its sign cleared.
- * Accuracy: 64f 0.5023 ulp, 99.97 % correctly rounded; 32f 0.6164 ulp, 98.6 % correctly rounded.
+ * Accuracy: 64f 0.5023 ulp, 99.97 % correctly rounded; 32f 0.6168 ulp, 99.88 % of 2^32 correctly rounded.
  * Source:   T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the quotient of two doubles.
  * @{ */
 int32_t daksAtan_64f_A50(const double* src, double* dst, int32_t len);
@@ -237,7 +237,7 @@ int32_t daksAtan_32f_A24(const float* src, float* dst, int32_t len);
  * Domain:   all numbers; no pair is exceptional. The sign is that of a, also on zeros. With a = 0 the
  *           angle is 0 where b has no sign bit, +0 included, and pi where it has one. Infinities count
  *           as equal: two of them give pi/4 or 3 pi/4. A NaN gives a + b.
- * Accuracy: 64f 0.5025 ulp, 99.97 % correctly rounded; 32f none of 10^7 misrounded.
+ * Accuracy: 64f 0.5023 ulp, 99.97 % correctly rounded; 32f none of 10^7 misrounded.
  * @{ */
 int32_t daksAtan2_64f_A50(const double* src1, const double* src2, double* dst, int32_t len);
 int32_t daksAtan2_64f_A53(const double* src1, const double* src2, double* dst, int32_t len);
@@ -258,7 +258,7 @@ long double gaxdsqrt_scalar(double x);
 long double gaxssqrt_scalar(float x);
 
 /** Arc tangent of one float: what daksAtan_32f_A24 stores, without the rounding of the store. No
- * status, no notification. Accuracy after a store to float: 0.6164 ulp. */
+ * status, no notification. Accuracy after a store to float: 0.6168 ulp. */
 long double gaxsatan_scalar(float x);
 
 /** The angle of the point (b, a), ordinate first, by a reduction to four breakpoints and a polynomial.

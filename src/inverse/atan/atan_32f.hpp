@@ -6,7 +6,7 @@
 //            below it. atan(t) = t + t s A(s) with s = t^2 and A of degree 3.
 // Exactness  y has 24 bits, c at most 4: y c is exact.
 // Error      polynomial 0.117 ulp of single precision; the only rounding is the store. Largest of
-//            all arguments: 0.6164 ulp.
+//            all 2^32 arguments: 0.6168 ulp.
 // Special    NaN and infinities: special.
 // Source     Constants and polynomial: tools/gentables/atan.cpp.
 #pragma once
