@@ -220,7 +220,7 @@ int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t l
  * Domain:   all numbers; no argument is exceptional. Infinities give pi/2 with their sign, zeros
  *           themselves. atan(-x) is -atan(x) bit for bit. A NaN comes back quiet, from the 32f
  *           functions with its sign cleared.
- * Accuracy: 64f 0.5023 ulp, 99.97 % correctly rounded; 32f 0.6168 ulp, 99.88 % of 2^32 correctly rounded.
+ * Accuracy: 64f 0.5023 ulp, 99.97 % correctly rounded; 32f 0.6168 ulp, 99.88 %.
  * Source:   T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the quotient of two doubles.
  * @{ */
 int32_t daksAtan_64f_A50(const double* src, double* dst, int32_t len);
