@@ -33,6 +33,8 @@ constexpr auto Cosh = DAKVM_LIBM(cosh);
 constexpr auto Tanh = DAKVM_LIBM(tanh);
 constexpr auto Erf = DAKVM_LIBM(erf);
 constexpr auto Erfc = DAKVM_LIBM(erfc);
+constexpr auto Atan = DAKVM_LIBM(atan);
+constexpr auto Atan2 = DAKVM_LIBM(atan2);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -58,6 +58,10 @@ constexpr Reference references[] = {
     {"Tanh", mpfr_tanh, nullptr},
     {"Erf", mpfr_erf, nullptr},
     {"Erfc", mpfr_erfc, nullptr},
+    {"Atan", mpfr_atan, nullptr},
+    {"atan", mpfr_atan, nullptr},
+    {"Atan2", nullptr, mpfr_atan2},
+    {"atan2", nullptr, mpfr_atan2},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

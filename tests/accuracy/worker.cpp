@@ -46,12 +46,26 @@ bool run(long double (*function)(T)) {
   return write_all(numbers);
 }
 
+template <class T>
+bool run(double (*function)(T, T)) {
+  std::vector<T> numbers;
+  if (!read_all(numbers)) return false;
+  const size_t len = numbers.size() / 2;
+  for (size_t i = 0; i < len; ++i)
+    numbers[i] = static_cast<T>(function(numbers[i], numbers[len + i]));
+  numbers.resize(len);
+  return write_all(numbers);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::string_view name = argc == 2 ? argv[1] : "";
   if (name == "gaxdsqrt_scalar") return run(gaxdsqrt_scalar) ? 0 : 1;
   if (name == "gaxssqrt_scalar") return run(gaxssqrt_scalar) ? 0 : 1;
+  if (name == "gaxsatan_scalar") return run(gaxsatan_scalar) ? 0 : 1;
+  if (name == "gaxsatan2_scalar") return run(gaxsatan2_scalar) ? 0 : 1;
+  if (name == "gaxdatan2_scalar") return run(gaxdatan2_scalar) ? 0 : 1;
   for (const Function& function : functions)
     if (function.name == name)
       return (function.type == Type::f64 ? run<double>(function) : run<float>(function)) ? 0 : 1;
