@@ -28,6 +28,8 @@ constexpr auto Ln = DAKVM_LIBM(log);
 constexpr auto Log10 = DAKVM_LIBM(log10);
 constexpr auto Pow = DAKVM_LIBM(pow);
 constexpr auto Powx = Pow;
+constexpr auto Asin = DAKVM_LIBM(asin);
+constexpr auto Acos = DAKVM_LIBM(acos);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {
