@@ -131,6 +131,35 @@ int32_t daksInvSqrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksInvSqrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
+/** \name Cube root
+ * dst[i] = cbrt(src[i]): a table of 32 short reciprocal cube roots, the binomial series of the
+ * residual. Odd bit for bit in the rounding mode to nearest.
+ *
+ * Domain:   all numbers; none is exceptional. Zeros, infinities and NaN are their own results.
+ * Accuracy: CBRT_ACCURACY
+ * @{ */
+int32_t daksCbrt_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksCbrt_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksCbrt_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksCbrt_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksCbrt_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Inverse cube root
+ * dst[i] = 1 / cbrt(src[i]): a table of 97 short reciprocal cube roots and a polynomial of the
+ * residual. Odd bit for bit in the rounding mode to nearest.
+ *
+ * Domain:   all numbers. +0 and -0 are DAKVM_STATUS_SINGULARITY, the result +Inf or -Inf; infinite
+ *           arguments give zeros of their sign.
+ * Accuracy: INVCBRT_ACCURACY
+ * @{ */
+int32_t daksInvCbrt_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksInvCbrt_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksInvCbrt_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksInvCbrt_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksInvCbrt_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
 /** \name Exponential
  * dst[i] = e^src[i]: reduction by ln2/64, a table of 2^(j/64), a polynomial.
  *
