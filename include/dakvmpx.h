@@ -136,7 +136,7 @@ int32_t daksInvSqrt_32f_A24(const float* src, float* dst, int32_t len);
  * residual. Odd bit for bit in the rounding mode to nearest.
  *
  * Domain:   all numbers; none is exceptional. Zeros, infinities and NaN are their own results.
- * Accuracy: CBRT_ACCURACY
+ * Accuracy: 64f 0.5003 ulp, 99.98 % correctly rounded; 32f none misrounded.
  * @{ */
 int32_t daksCbrt_64f_A50(const double* src, double* dst, int32_t len);
 int32_t daksCbrt_64f_A53(const double* src, double* dst, int32_t len);
@@ -151,7 +151,7 @@ int32_t daksCbrt_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   all numbers. +0 and -0 are DAKVM_STATUS_SINGULARITY, the result +Inf or -Inf; infinite
  *           arguments give zeros of their sign.
- * Accuracy: INVCBRT_ACCURACY
+ * Accuracy: 64f 0.5066 ulp, 99.88 % correctly rounded; 32f none misrounded.
  * @{ */
 int32_t daksInvCbrt_64f_A50(const double* src, double* dst, int32_t len);
 int32_t daksInvCbrt_64f_A53(const double* src, double* dst, int32_t len);
