@@ -23,6 +23,8 @@ constexpr auto Div = [](auto a, auto b) { return a / b; };
 constexpr auto Inv = [](auto x) { return 1 / x; };
 constexpr auto Sqrt = DAKVM_LIBM(sqrt);
 constexpr auto InvSqrt = [](auto x) { return 1 / Sqrt(x); };
+constexpr auto Cbrt = DAKVM_LIBM(cbrt);
+constexpr auto InvCbrt = [](auto x) { return 1 / Cbrt(x); };
 constexpr auto Exp = DAKVM_LIBM(exp);
 constexpr auto Ln = DAKVM_LIBM(log);
 constexpr auto Log10 = DAKVM_LIBM(log10);
@@ -35,6 +37,8 @@ constexpr auto Erf = DAKVM_LIBM(erf);
 constexpr auto Erfc = DAKVM_LIBM(erfc);
 constexpr auto Atan = DAKVM_LIBM(atan);
 constexpr auto Atan2 = DAKVM_LIBM(atan2);
+constexpr auto Asin = DAKVM_LIBM(asin);
+constexpr auto Acos = DAKVM_LIBM(acos);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

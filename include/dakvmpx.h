@@ -131,6 +131,35 @@ int32_t daksInvSqrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksInvSqrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
+/** \name Cube root
+ * dst[i] = cbrt(src[i]): a table of 32 short reciprocal cube roots, the binomial series of the
+ * residual. Odd bit for bit in the rounding mode to nearest.
+ *
+ * Domain:   all numbers; none is exceptional. Zeros, infinities and NaN are their own results.
+ * Accuracy: 64f 0.5003 ulp, 99.98 % correctly rounded; 32f none misrounded.
+ * @{ */
+int32_t daksCbrt_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksCbrt_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksCbrt_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksCbrt_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksCbrt_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Inverse cube root
+ * dst[i] = 1 / cbrt(src[i]): a table of 97 short reciprocal cube roots and a polynomial of the
+ * residual. Odd bit for bit in the rounding mode to nearest.
+ *
+ * Domain:   all numbers. +0 and -0 are DAKVM_STATUS_SINGULARITY, the result +Inf or -Inf; infinite
+ *           arguments give zeros of their sign.
+ * Accuracy: 64f 0.5066 ulp, 99.88 % correctly rounded; 32f none misrounded.
+ * @{ */
+int32_t daksInvCbrt_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksInvCbrt_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksInvCbrt_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksInvCbrt_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksInvCbrt_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
 /** \name Exponential
  * dst[i] = e^src[i]: reduction by ln2/64, a table of 2^(j/64), a polynomial.
  *
@@ -329,6 +358,37 @@ int32_t daksAtan2_64f_A53(const double* src1, const double* src2, double* dst, i
 int32_t daksAtan2_32f_A11(const float* src1, const float* src2, float* dst, int32_t len);
 int32_t daksAtan2_32f_A21(const float* src1, const float* src2, float* dst, int32_t len);
 int32_t daksAtan2_32f_A24(const float* src1, const float* src2, float* dst, int32_t len);
+/** @} */
+
+/** \name Arc sine
+ * dst[i] = arcsin(src[i]), in radians, in [-pi/2, pi/2]: below 1/2 a polynomial; above, pi/2 less
+ * twice the arc sine of sqrt((1 - |x|)/2), the root from a table of 513 short reciprocal roots. Odd
+ * bit for bit, in every rounding mode.
+ *
+ * Domain:   [-1, 1]. Other numbers, infinities included, are DAKVM_STATUS_DOMAIN, the result NaN.
+ *           A NaN is not exceptional. A subnormal number is its own result; in 64f it raises
+ *           underflow.
+ * Accuracy: 64f 0.5012 ulp, 99.98 % correctly rounded; 32f none misrounded.
+ * @{ */
+int32_t daksAsin_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksAsin_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksAsin_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksAsin_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksAsin_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Arc cosine
+ * dst[i] = arccos(src[i]), in radians, in [0, pi]: by the arc sine of the family above.
+ *
+ * Domain:   [-1, 1], as for the arc sine. At 1 the result is +0; at other arguments inexact is
+ *           raised.
+ * Accuracy: 64f 0.5010 ulp, 99.98 % correctly rounded; 32f none misrounded.
+ * @{ */
+int32_t daksAcos_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksAcos_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksAcos_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksAcos_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksAcos_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
 /** Square root of one double, by a polynomial for the reciprocal root and one Newton step. The

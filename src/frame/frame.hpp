@@ -7,6 +7,11 @@
 //                bool is_ordinary(context, Bits<T>...)   from integers alone
 //                void Element::start(context, const T* src...)
 //            for the elements that the chain can take; its apply is asked for all others.
+//            A kernel whose arguments take different ways has several chains, and in place of
+//            Element, Stages and is_ordinary
+//                Chains                   a Chains<Chain<Element, Stages>...>
+//                int32_t chain_of(context, Bits<T>...)   a chain's number, or Chains::count
+//            A mixed array costs no mispredicted branch if chain_of has none.
 // Exactness  An observer sees elements done one by one in index order. The chain of a block runs
 //            first and touches nothing that is the caller's; then results are stored, and special
 //            elements handled, in index order. That is the same thing unless a store reaches a
@@ -30,11 +35,28 @@ using x87::Bits;
 using x87::Ext;
 
 constexpr int32_t longest_block = 32;
+// Chains share a block; the loops of its stages end at unforeseeable counts, each at the cost of a
+// misprediction. More elements make that rare.
+constexpr int32_t longest_forked_block = 128;
 
 template <class Kernel>
 concept Staged = requires {
   typename Kernel::Element;
   typename Kernel::Stages;
+};
+
+template <class ElementType, class StagesType>
+struct Chain {
+  using Element = ElementType;
+  using Stages = StagesType;
+};
+template <class... Chain>
+struct Chains {
+  static constexpr int32_t count = sizeof...(Chain);
+};
+template <class Kernel>
+concept Forked = requires {
+  typename Kernel::Chains;
 };
 
 // The caller's arrays, in argument order.
@@ -78,13 +100,13 @@ struct Arrays {
 
   // A destination that starts less than a block behind a source receives results where elements of
   // the same block are still to be read. One that starts at the source or before it does not.
-  DAKVM_INLINE int32_t block_length() const {
+  DAKVM_INLINE int32_t block_length(int32_t longest) const {
     for (const T* s : src)
       for (const T* d : dst) {
         const auto ahead = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(s);
-        if (ahead != 0 && ahead < longest_block * sizeof(T)) return 1;
+        if (ahead != 0 && ahead < static_cast<uintptr_t>(longest) * sizeof(T)) return 1;
       }
-    return longest_block;
+    return longest;
   }
 };
 
@@ -118,6 +140,20 @@ DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len
     report.note(i, arrays.at(i, [&](auto*... p) { return Kernel::apply(context, p...); }));
 }
 
+// The stores and special elements of a block in index order; `store(i)` stores an ordinary one.
+template <class Kernel, class Context, class Arrays, class Report, class Store>
+DAKVM_INLINE void complete(const Context& context, const Arrays& arrays, int32_t first,
+                           int32_t length, const int32_t* special_places, int32_t special,
+                           Report& report, Store&& store) {
+  int32_t i = first;
+  for (int32_t s = 0; s < special; ++s, ++i) {
+    for (; i < special_places[s]; ++i) store(i);
+    report.note(i, arrays.at(i, [&](auto*... p) { return Kernel::apply(context, p...); }));
+  }
+#pragma GCC unroll 2
+  for (; i < first + length; ++i) store(i);
+}
+
 // A block: ordinary elements gathered side by side, special ones remembered by their place.
 template <class Kernel, class Context, class Arrays, class Report>
 DAKVM_INLINE void run_block(const Context& context, const Arrays& arrays, int32_t first,
@@ -138,20 +174,61 @@ DAKVM_INLINE void run_block(const Context& context, const Arrays& arrays, int32_
   x87::settle(elements);
   Stages::advance(elements, ordinary, context);
 
-  int32_t i = first, taken = 0;
-  for (int32_t s = 0; s < special; ++s, ++i) {
-    for (; i < special_places[s]; ++i) arrays.store(i, Stages::finish(elements[taken++], context));
-    report.note(i, arrays.at(i, [&](auto*... p) { return Kernel::apply(context, p...); }));
-  }
-#pragma GCC unroll 2
-  for (; i < first + length; ++i) arrays.store(i, Stages::finish(elements[taken++], context));
+  int32_t taken = 0;
+  complete<Kernel>(context, arrays, first, length, special_places, special, report,
+                   [&](int32_t i) { arrays.store(i, Stages::finish(elements[taken++], context)); });
 }
 
 template <Staged Kernel, class Context, class Arrays, class Report>
 DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len, Report& report) {
-  const int32_t block = arrays.block_length();
+  const int32_t block = arrays.block_length(longest_block);
   for (int32_t i = 0; i < len; i += block)
     run_block<Kernel>(context, arrays, i, len - i < block ? len - i : block, report);
+}
+
+// The elements of a block that take one chain, by their places; results[i] is for place first + i.
+template <class Chain, class Context, class Arrays, class T>
+DAKVM_INLINE void run_chain(const Context& context, const Arrays& arrays, const int32_t* places,
+                            int32_t count, int32_t first, T* results) {
+  typename Chain::Element elements[longest_forked_block];
+  for (int32_t k = 0; k < count; ++k)
+    arrays.sources_at(places[k], [&](auto*... src) { elements[k].start(context, src...); });
+  x87::settle(elements);
+  Chain::Stages::advance(elements, count, context);
+#pragma GCC unroll 2
+  for (int32_t k = 0; k < count; ++k)
+    results[places[k] - first] = x87::narrow<T>(Chain::Stages::finish(elements[k], context));
+}
+
+template <class Kernel, class... Chain, class Context, class T, int sources, class Report>
+DAKVM_INLINE void run_forked_block(Chains<Chain...>, const Context& context,
+                                   const Arrays<T, sources, 1>& arrays, int32_t first,
+                                   int32_t length, Report& report) {
+  constexpr int32_t ways = sizeof...(Chain) + 1;
+  int32_t places[ways][longest_forked_block];
+  int32_t counts[ways] = {};
+  T results[longest_forked_block];
+
+  for (int32_t i = first; i < first + length; ++i) {
+    const int32_t taken = arrays.sources_at(
+        i, [&](auto*... src) { return Kernel::chain_of(context, Bits<T>::read(src)...); });
+    [&]<int32_t... way>(std::integer_sequence<int32_t, way...>) {
+      ((places[way][counts[way]] = i, counts[way] += taken == way), ...);
+    }
+    (std::make_integer_sequence<int32_t, ways>{});
+  }
+  int32_t way = 0;
+  ((run_chain<Chain>(context, arrays, places[way], counts[way], first, results), ++way), ...);
+  complete<Kernel>(context, arrays, first, length, places[way], counts[way], report,
+                   [&](int32_t i) { arrays.store(i, results[i - first]); });
+}
+
+template <Forked Kernel, class Context, class Arrays, class Report>
+DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len, Report& report) {
+  const int32_t block = arrays.block_length(longest_forked_block);
+  for (int32_t i = 0; i < len; i += block)
+    run_forked_block<Kernel>(typename Kernel::Chains{}, context, arrays, i,
+                             len - i < block ? len - i : block, report);
 }
 
 // The grades that share a kernel share its one machine code.

@@ -43,12 +43,19 @@ int reciprocal(mpfr_ptr result, mpfr_srcptr x, mpfr_rnd_t rounding) {
   return mpfr_ui_div(result, 1, x, rounding);
 }
 
+int reciprocal_cbrt(mpfr_ptr result, mpfr_srcptr x, mpfr_rnd_t rounding) {
+  mpfr_cbrt(result, x, rounding);
+  return mpfr_ui_div(result, 1, result, rounding);
+}
+
 constexpr Reference references[] = {
     {"Div", nullptr, mpfr_div},
     {"Inv", reciprocal, nullptr},
     {"Sqrt", mpfr_sqrt, nullptr},
     {"sqrt", mpfr_sqrt, nullptr},
     {"InvSqrt", mpfr_rec_sqrt, nullptr},
+    {"Cbrt", mpfr_cbrt, nullptr},
+    {"InvCbrt", reciprocal_cbrt, nullptr},
     {"Exp", mpfr_exp, nullptr},
     {"Ln", mpfr_log, nullptr},
     {"Log10", mpfr_log10, nullptr},
@@ -62,6 +69,8 @@ constexpr Reference references[] = {
     {"atan", mpfr_atan, nullptr},
     {"Atan2", nullptr, mpfr_atan2},
     {"atan2", nullptr, mpfr_atan2},
+    {"Asin", mpfr_asin, nullptr},
+    {"Acos", mpfr_acos, nullptr},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

@@ -15,6 +15,10 @@ int64_t place_of(Word<T> word) {
 // Where the path changes, results do not fall as the argument grows, and no status is set.
 template <class T>
 void expect_no_fall(const registry::Function& function, Word<T> around) {
+// Where the path changes, results do not fall as the argument's word grows, and no status is set;
+// with the direction -1 they do not rise.
+template <class T>
+void expect_no_fall(const registry::Function& function, Word<T> around, int64_t direction = 1) {
   SCOPED_TRACE(std::string(function.name) + " at " + ::testing::PrintToString(around));
   int64_t last = INT64_MIN;
   for (Word<T> x = around - 60; x != around + 60; ++x) {
@@ -22,6 +26,8 @@ void expect_no_fall(const registry::Function& function, Word<T> around) {
     EXPECT_EQ(got.status, DAKVM_STATUS_OK);
     EXPECT_GE(place_of<T>(got.result[0]), last);
     last = place_of<T>(got.result[0]);
+    EXPECT_GE(direction * place_of<T>(got.result[0]), last);
+    last = direction * place_of<T>(got.result[0]);
   }
 }
 
