@@ -28,6 +28,9 @@ constexpr auto Ln = DAKVM_LIBM(log);
 constexpr auto Log10 = DAKVM_LIBM(log10);
 constexpr auto Pow = DAKVM_LIBM(pow);
 constexpr auto Powx = Pow;
+constexpr auto Atanh = DAKVM_LIBM(atanh);
+constexpr auto Asinh = DAKVM_LIBM(asinh);
+constexpr auto Acosh = DAKVM_LIBM(acosh);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -53,6 +53,9 @@ constexpr Reference references[] = {
     {"Ln", mpfr_log, nullptr},
     {"Log10", mpfr_log10, nullptr},
     {"Pow", nullptr, mpfr_pow},
+    {"Atanh", mpfr_atanh, nullptr},
+    {"Asinh", mpfr_asinh, nullptr},
+    {"Acosh", mpfr_acosh, nullptr},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar
