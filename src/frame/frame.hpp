@@ -7,10 +7,17 @@
 //                bool is_ordinary(context, Bits<T>...)   from integers alone
 //                void Element::start(context, const T* src...)
 //            for the elements that the chain can take; its apply is asked for all others.
+//            A kernel whose arguments take different ways has several chains, and in place of
+//            Element, Stages and is_ordinary
+//                Chains                   a Chains<Chain<Element, Stages>...>
+//                int32_t chain_of(context, Bits<T>...)   a chain's number, or Chains::count
+//            A mixed array costs no mispredicted branch if chain_of has none.
 // Exactness  An observer sees elements done one by one in index order. The chain of a block runs
 //            first and touches nothing that is the caller's; then results are stored, and special
 //            elements handled, in index order. That is the same thing unless a store reaches a
 //            source element that the block has read already: block_length decides that once a call.
+//            Several chains store by chain, special elements last; no store may then reach any
+//            source element but that of its own place, or the block is one element long.
 #pragma once
 
 #include <cstddef>
@@ -30,11 +37,28 @@ using x87::Bits;
 using x87::Ext;
 
 constexpr int32_t longest_block = 32;
+// Chains share a block; the loops of its stages end at unforeseeable counts, each at the cost of a
+// misprediction. More elements make that rare.
+constexpr int32_t longest_forked_block = 128;
 
 template <class Kernel>
 concept Staged = requires {
   typename Kernel::Element;
   typename Kernel::Stages;
+};
+
+template <class ElementType, class StagesType>
+struct Chain {
+  using Element = ElementType;
+  using Stages = StagesType;
+};
+template <class... Chain>
+struct Chains {
+  static constexpr int32_t count = sizeof...(Chain);
+};
+template <class Kernel>
+concept Forked = requires {
+  typename Kernel::Chains;
 };
 
 // The caller's arrays, in argument order.
@@ -85,6 +109,16 @@ struct Arrays {
         if (ahead != 0 && ahead < longest_block * sizeof(T)) return 1;
       }
     return longest_block;
+  }
+
+  DAKVM_INLINE int32_t forked_block_length() const {
+    constexpr uintptr_t span = longest_forked_block * sizeof(T);
+    for (const T* s : src)
+      for (const T* d : dst) {
+        const auto ahead = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(s);
+        if (ahead != 0 && ahead + span < 2 * span) return 1;
+      }
+    return longest_forked_block;
   }
 };
 
@@ -152,6 +186,54 @@ DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len
   const int32_t block = arrays.block_length();
   for (int32_t i = 0; i < len; i += block)
     run_block<Kernel>(context, arrays, i, len - i < block ? len - i : block, report);
+}
+
+template <class Chain, class Context, class Arrays>
+DAKVM_INLINE void run_chain(const Context& context, const Arrays& arrays, const int32_t* places,
+                            int32_t count) {
+  typename Chain::Element elements[longest_forked_block];
+  for (int32_t k = 0; k < count; ++k)
+    arrays.sources_at(places[k], [&](auto*... src) { elements[k].start(context, src...); });
+  x87::settle(elements);
+  Chain::Stages::advance(elements, count, context);
+#pragma GCC unroll 2
+  for (int32_t k = 0; k < count; ++k)
+    arrays.store(places[k], Chain::Stages::finish(elements[k], context));
+}
+
+template <class Kernel, class... Chain, class Context, class Arrays, class Report>
+DAKVM_INLINE void run_forked_block(Chains<Chain...>, const Context& context, const Arrays& arrays,
+                                   int32_t first, int32_t length, Report& report) {
+  constexpr int32_t ways = sizeof...(Chain) + 1;
+  int32_t places[ways][longest_forked_block];
+  int32_t counts[ways] = {};
+  const auto each_way = [&]<int32_t... way>(std::integer_sequence<int32_t, way...>, auto&& visit) {
+    (visit(std::integral_constant<int32_t, way>{}), ...);
+  };
+  constexpr std::make_integer_sequence<int32_t, ways> all_ways;
+  for (int32_t i = first; i < first + length; ++i) {
+    const int32_t taken = arrays.sources_at(i, [&](auto*... src) {
+      return Kernel::chain_of(context, Bits<std::remove_cvref_t<decltype(*src)>>::read(src)...);
+    });
+    each_way(all_ways, [&](auto way) {
+      places[way][counts[way]] = i;
+      counts[way] += taken == way;
+    });
+  }
+  int32_t way = 0;
+  ((run_chain<Chain>(context, arrays, places[way], counts[way]), ++way), ...);
+  for (int32_t s = 0; s < counts[way]; ++s)
+    report.note(places[way][s], arrays.at(places[way][s], [&](auto*... p) {
+      return Kernel::apply(context, p...);
+    }));
+}
+
+template <Forked Kernel, class Context, class Arrays, class Report>
+DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len, Report& report) {
+  const int32_t block = arrays.forked_block_length();
+  for (int32_t i = 0; i < len; i += block)
+    run_forked_block<Kernel>(typename Kernel::Chains{}, context, arrays, i,
+                             len - i < block ? len - i : block, report);
 }
 
 // The grades that share a kernel share its one machine code.

@@ -33,6 +33,12 @@ struct Split {
 
   DAKVM_INLINE void multiply(Ext x, Ext splitter) { product = narrow<double>(splitter * x); }
   DAKVM_INLINE void subtract(Ext x) { remainder = narrow<double>(product - x); }
+  // Both at once, for a splitter 2^k: the product is exact.
+  DAKVM_INLINE void cut(Ext x, Ext power) {
+    const Ext exact = power * x;
+    product = narrow<double>(exact);
+    remainder = narrow<double>(exact - x);
+  }
   DAKVM_INLINE Ext high() const { return Ext{product} - remainder; }
 };
 
