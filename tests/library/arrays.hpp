@@ -131,4 +131,60 @@ void expect_cases(std::string_view family, const std::vector<Case<T>>& cases) {
   }
 }
 
+// Across a change of path results do not fall as the argument grows, and no status is set.
+template <class T>
+void expect_no_fall(const registry::Function& function, Word<T> around) {
+  SCOPED_TRACE(std::string(function.name) + " at " + ::testing::PrintToString(around));
+  const auto place = [](Word<T> word) {
+    const auto magnitude = static_cast<int64_t>(word & ~sign_mask<T>);
+    return word & sign_mask<T> ? -magnitude : magnitude;
+  };
+  int64_t last = INT64_MIN;
+  for (Word<T> x = around - 60; x != around + 60; ++x) {
+    const auto got = evaluate_one<T>(function, x);
+    EXPECT_EQ(got.status, DAKVM_STATUS_OK);
+    EXPECT_GE(place(got.result[0]), last);
+    last = place(got.result[0]);
+  }
+}
+
+// f(-x) is f(x) with the other sign, in every rounding mode.
+template <class T>
+void expect_odd(std::string_view family, const std::vector<Word<T>>& words) {
+  const auto type = sizeof(T) == 8 ? registry::Type::f64 : registry::Type::f32;
+  const auto& function = function_named(family, type, sizeof(T) == 8 ? "A53" : "A24");
+  for (int rounding = 0; rounding < 4; ++rounding) {
+    const ScopedModes modes(3, rounding);
+    for (const Word<T> word : words) {
+      const Word<T> other = word ^ sign_mask<T>;
+      const auto at_word = evaluate_one<T>(function, word).result[0];
+      const auto at_other = evaluate_one<T>(function, other).result[0];
+      // The NaN of an invalid operation has one sign.
+      if (is_nan<T>(at_word) && !is_nan<T>(word)) {
+        ASSERT_TRUE(is_nan<T>(at_other));
+      } else {
+        ASSERT_EQ(at_word, at_other ^ sign_mask<T>) << function.name << ' ' << word;
+      }
+    }
+  }
+}
+
+// Grades of one type that share their code give the same bits.
+template <class T>
+void expect_equal_grades(std::string_view family, const std::vector<Word<T>>& words) {
+  const registry::Function* first = nullptr;
+  for (const auto& function : registry::functions) {
+    if (function.family.name != family ||
+        function.type != (sizeof(T) == 8 ? registry::Type::f64 : registry::Type::f32))
+      continue;
+    if (first == nullptr) {
+      first = &function;
+      continue;
+    }
+    for (const Word<T> word : words)
+      ASSERT_EQ(evaluate_one<T>(function, word).result[0], evaluate_one<T>(*first, word).result[0])
+          << function.name << ' ' << word;
+  }
+}
+
 }  // namespace dakvm::test

@@ -58,24 +58,7 @@ TEST(Log, KnownResults) {
                       {{1, 0xc23369f4, ok, inexact}, {inf_f - 1, 0x421a209b, ok, inexact}});
 }
 
-// Where the path changes - around one, at sqrt(2), at the ends of a row, at the least normal number
-// - results do not fall as the argument grows, and no status is set.
-template <class T>
-void expect_no_fall(const registry::Function& function, Word<T> around) {
-  SCOPED_TRACE(std::string(function.name) + " at " + ::testing::PrintToString(around));
-  const auto place = [](Word<T> word) {
-    const auto magnitude = static_cast<int64_t>(word & ~sign_mask<T>);
-    return word & sign_mask<T> ? -magnitude : magnitude;
-  };
-  int64_t last = INT64_MIN;
-  for (Word<T> x = around - 60; x != around + 60; ++x) {
-    const auto got = evaluate_one<T>(function, x);
-    EXPECT_EQ(got.status, ok);
-    EXPECT_GE(place(got.result[0]), last);
-    last = place(got.result[0]);
-  }
-}
-
+// Where the path changes: around one, at sqrt(2), at the ends of a row, at the least normal number.
 TEST(Log, PathsMeet) {
   for (const auto& function : registry::functions) {
     if (function.family.name != "Ln" && function.family.name != "Log10") continue;
@@ -96,14 +79,7 @@ TEST(Log, PathsMeet) {
 // Single precision carries the double algorithm: its grades agree.
 TEST(Log, GradesThatShareCodeAgree) {
   const auto words = mixed_words<float>(20000, 0.9, 1.1, 0.3, 5);
-  for (const char* family : {"Ln", "Log10"}) {
-    const auto& exact = function_named(family, registry::Type::f32, "A24");
-    for (const uint32_t word : words)
-      for (const char* grade : {"A11", "A21"})
-        ASSERT_EQ(
-            evaluate_one<float>(function_named(family, registry::Type::f32, grade), word).result[0],
-            evaluate_one<float>(exact, word).result[0]);
-  }
+  for (const char* family : {"Ln", "Log10"}) expect_equal_grades<float>(family, words);
 }
 
 }  // namespace

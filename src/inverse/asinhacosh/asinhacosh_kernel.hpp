@@ -122,13 +122,9 @@ struct AcoshElement : Element<T, AcoshTable> {
   }
 };
 
-// least <= x < 2^28
+// The lead word of 2^28.
 template <class T>
-DAKVM_INLINE bool is_below_large(uint32_t word, T least) {
-  const uint32_t first = Bits<T>::read(&least).lead();
-  const uint32_t last = (Bits<T>::bias + 28) << Bits<T>::fraction_bits;
-  return word - first < last - first;
-}
+constexpr uint32_t large_lead = (Bits<T>::bias + 28) << Bits<T>::fraction_bits;
 
 template <class T>
 struct AsinhKernel {
@@ -136,7 +132,8 @@ struct AsinhKernel {
   using Stages = StagesOf<Element, &Element::take_logarithm, &Element::restore_sign>;
 
   DAKVM_INLINE static bool is_ordinary(const AsinhTable&, Bits<T> x) {
-    return is_below_large<T>(x.magnitude(), 0x1p-3);
+    constexpr uint32_t first = (Bits<T>::bias - 3) << Bits<T>::fraction_bits;
+    return x.magnitude() - first < large_lead<T> - first;
   }
 
   [[gnu::cold, gnu::noinline]] static Status apply(const AsinhTable& t, const T* src, T* dst) {
@@ -167,19 +164,23 @@ struct AsinhKernel {
   }
 };
 
-// arcosh(1 + w) for 0 < w < 1/16.
+// One number of (1, 1 + 1/16) on its way; w and 2 w are exact.
 struct NearOne {
   double w, twice_w;
   inverse::TableRoot root;
 
-  DAKVM_INLINE void decompose(const AcoshTable& t) {
-    twice_w = round_to_double(t.two * Ext{w});
-    root.decompose(twice_w);
+  template <class T>
+  DAKVM_INLINE void start(const AcoshTable& t, const T* x) {
+    const Ext exact = *x - Ext{t.one};
+    w = narrow<double>(exact);
+    twice_w = narrow<double>(t.two * exact);
   }
+  DAKVM_INLINE void decompose(const AcoshTable&) { root.decompose(twice_w); }
   DAKVM_INLINE void locate_root(const AcoshTable& t) { root.locate(t); }
   DAKVM_INLINE void split_root(const AcoshTable&) { root.split(); }
   DAKVM_INLINE void start_root(const AcoshTable& t) { root.start_series(t, root.low()); }
   DAKVM_INLINE Ext rebuild(const AcoshTable& t) const {
+    settle(&t);
     const Ext head = root.head(t), tail = root.tail(t, root.low());
     const Ext K =
         t.k1 +
@@ -194,10 +195,15 @@ using NearOneStages =
 template <class T>
 struct AcoshKernel {
   using Element = AcoshElement<T>;
-  using Stages = StagesOf<Element, &Element::take_logarithm>;
+  using Chains = frame::Chains<frame::Chain<Element, StagesOf<Element, &Element::take_logarithm>>,
+                               frame::Chain<NearOne, NearOneStages>>;
 
-  DAKVM_INLINE static bool is_ordinary(const AcoshTable&, Bits<T> x) {
-    return is_below_large<T>(x.lead(), 0x1.1p+0);
+  // Near one from the lead word behind that of 1 on.
+  DAKVM_INLINE static int32_t chain_of(const AcoshTable&, Bits<T> x) {
+    constexpr uint32_t one = Bits<T>::bias << Bits<T>::fraction_bits;
+    constexpr uint32_t middle = one + (1u << (Bits<T>::fraction_bits - 4));
+    const int32_t chain = x.lead() < middle;
+    return x.lead() - (one + 1) < large_lead<T> - (one + 1) ? chain : 2;
   }
 
   [[gnu::cold, gnu::noinline]] static Status apply(const AcoshTable& t, const T* src, T* dst) {
@@ -212,15 +218,15 @@ struct AcoshKernel {
       return Status::domain;
     }
     *dst = narrow<T>(x == t.one       ? Ext{t.zero}
-                     : x < t.near_one ? near_one(t, x)
+                     : x < t.near_one ? near_one(t, src)
                                       : Element::ln_of_twice(t, x));
     return Status::ok;
   }
 
  private:
-  DAKVM_INLINE static Ext near_one(const AcoshTable& t, Ext x) {
+  DAKVM_INLINE static Ext near_one(const AcoshTable& t, const T* x) {
     NearOne element;
-    element.w = round_to_double(x - t.one);
+    element.start(t, x);
     return NearOneStages::run(element, t);
   }
 };
