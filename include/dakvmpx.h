@@ -212,13 +212,44 @@ int32_t daksPowx_32f_A21(const float* src, float exponent, float* dst, int32_t l
 int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t len);
 /** @} */
 
+/** \name Arc sine
+ * dst[i] = arcsin(src[i]), in radians, in [-pi/2, pi/2]: below 1/2 a polynomial; above, pi/2 less
+ * twice the arc sine of sqrt((1 - |x|)/2), the root from a table of 513 short reciprocal roots. Odd
+ * bit for bit, in every rounding mode.
+ *
+ * Domain:   [-1, 1]. Other numbers, infinities included, are DAKVM_STATUS_DOMAIN, the result NaN.
+ *           A NaN is not exceptional. A subnormal number is its own result; in 64f it raises
+ *           underflow.
+ * Accuracy: 64f 0.5012 ulp, 99.98 % correctly rounded; 32f none misrounded.
+ * @{ */
+int32_t daksAsin_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksAsin_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksAsin_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksAsin_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksAsin_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Arc cosine
+ * dst[i] = arccos(src[i]), in radians, in [0, pi]: by the arc sine of the family above.
+ *
+ * Domain:   [-1, 1], as for the arc sine. At 1 the result is +0; at other arguments inexact is
+ *           raised.
+ * Accuracy: 64f 0.5010 ulp, 99.98 % correctly rounded; 32f none misrounded.
+ * @{ */
+int32_t daksAcos_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksAcos_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksAcos_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksAcos_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksAcos_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
 /** \name Inverse hyperbolic sine
  * dst[i] = arsinh(src[i]). From 1/8 on the logarithm of |x| + sqrt(x^2 + 1) in two parts, by a table
  * of 513 short reciprocal roots and one of 65 short reciprocals; from 2^28 on that of 2 |x|; below
  * 1/8 a polynomial. 32f: the same algorithm, rounded once. Odd bit for bit, in every rounding mode.
  *
  * Domain:   all numbers; no argument is exceptional. Infinities give themselves.
- * Accuracy: ASINH_ACCURACY
+ * Accuracy: 64f 0.5041 ulp, near 1/8, 99.97 % correctly rounded; 32f none misrounded
  * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400, for the table of the logarithm; T. J. Dekker,
  *           Numer. Math. 18 (1971) 224-242.
  * @{ */
@@ -236,7 +267,7 @@ int32_t daksAsinh_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   [1, +Inf]; the result at 1 is +0. Smaller numbers, -Inf included, are
  *           DAKVM_STATUS_DOMAIN, the result NaN.
- * Accuracy: ACOSH_ACCURACY
+ * Accuracy: 64f 0.5010 ulp, 99.97 % correctly rounded; 32f none misrounded
  * Source:   as for the sine.
  * @{ */
 int32_t daksAcosh_64f_A50(const double* src, double* dst, int32_t len);
@@ -254,7 +285,8 @@ int32_t daksAcosh_32f_A24(const float* src, float* dst, int32_t len);
  * Domain:   [-1, 1]. -1 and 1 are DAKVM_STATUS_SINGULARITY, the result -Inf or +Inf. Other numbers,
  *           infinities included, are DAKVM_STATUS_DOMAIN, the result NaN (32f: 0x7FFFFFFF with the
  *           argument's sign). A NaN comes back quiet, in 32f with the bits it had.
- * Accuracy: ATANH_ACCURACY
+ * Accuracy: 64f 0.5016 ulp, 99.97 % correctly rounded; 32f 0.735 ulp, at 0.0019, 99.92 % correctly
+ *           rounded.
  * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400, for the table of the logarithm.
  * @{ */
 int32_t daksAtanh_64f_A50(const double* src, double* dst, int32_t len);

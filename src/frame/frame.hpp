@@ -16,8 +16,6 @@
 //            first and touches nothing that is the caller's; then results are stored, and special
 //            elements handled, in index order. That is the same thing unless a store reaches a
 //            source element that the block has read already: block_length decides that once a call.
-//            Several chains store by chain, special elements last; no store may then reach any
-//            source element but that of its own place, or the block is one element long.
 #pragma once
 
 #include <cstddef>
@@ -102,23 +100,13 @@ struct Arrays {
 
   // A destination that starts less than a block behind a source receives results where elements of
   // the same block are still to be read. One that starts at the source or before it does not.
-  DAKVM_INLINE int32_t block_length() const {
+  DAKVM_INLINE int32_t block_length(int32_t longest) const {
     for (const T* s : src)
       for (const T* d : dst) {
         const auto ahead = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(s);
-        if (ahead != 0 && ahead < longest_block * sizeof(T)) return 1;
+        if (ahead != 0 && ahead < static_cast<uintptr_t>(longest) * sizeof(T)) return 1;
       }
-    return longest_block;
-  }
-
-  DAKVM_INLINE int32_t forked_block_length() const {
-    constexpr uintptr_t span = longest_forked_block * sizeof(T);
-    for (const T* s : src)
-      for (const T* d : dst) {
-        const auto ahead = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(s);
-        if (ahead != 0 && ahead + span < 2 * span) return 1;
-      }
-    return longest_forked_block;
+    return longest;
   }
 };
 
@@ -152,6 +140,20 @@ DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len
     report.note(i, arrays.at(i, [&](auto*... p) { return Kernel::apply(context, p...); }));
 }
 
+// The stores and special elements of a block in index order; `store(i)` stores an ordinary one.
+template <class Kernel, class Context, class Arrays, class Report, class Store>
+DAKVM_INLINE void complete(const Context& context, const Arrays& arrays, int32_t first,
+                           int32_t length, const int32_t* special_places, int32_t special,
+                           Report& report, Store&& store) {
+  int32_t i = first;
+  for (int32_t s = 0; s < special; ++s, ++i) {
+    for (; i < special_places[s]; ++i) store(i);
+    report.note(i, arrays.at(i, [&](auto*... p) { return Kernel::apply(context, p...); }));
+  }
+#pragma GCC unroll 2
+  for (; i < first + length; ++i) store(i);
+}
+
 // A block: ordinary elements gathered side by side, special ones remembered by their place.
 template <class Kernel, class Context, class Arrays, class Report>
 DAKVM_INLINE void run_block(const Context& context, const Arrays& arrays, int32_t first,
@@ -172,25 +174,22 @@ DAKVM_INLINE void run_block(const Context& context, const Arrays& arrays, int32_
   x87::settle(elements);
   Stages::advance(elements, ordinary, context);
 
-  int32_t i = first, taken = 0;
-  for (int32_t s = 0; s < special; ++s, ++i) {
-    for (; i < special_places[s]; ++i) arrays.store(i, Stages::finish(elements[taken++], context));
-    report.note(i, arrays.at(i, [&](auto*... p) { return Kernel::apply(context, p...); }));
-  }
-#pragma GCC unroll 2
-  for (; i < first + length; ++i) arrays.store(i, Stages::finish(elements[taken++], context));
+  int32_t taken = 0;
+  complete<Kernel>(context, arrays, first, length, special_places, special, report,
+                   [&](int32_t i) { arrays.store(i, Stages::finish(elements[taken++], context)); });
 }
 
 template <Staged Kernel, class Context, class Arrays, class Report>
 DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len, Report& report) {
-  const int32_t block = arrays.block_length();
+  const int32_t block = arrays.block_length(longest_block);
   for (int32_t i = 0; i < len; i += block)
     run_block<Kernel>(context, arrays, i, len - i < block ? len - i : block, report);
 }
 
-template <class Chain, class Context, class Arrays>
+// The elements of a block that take one chain, by their places; results[i] is for place first + i.
+template <class Chain, class Context, class Arrays, class T>
 DAKVM_INLINE void run_chain(const Context& context, const Arrays& arrays, const int32_t* places,
-                            int32_t count) {
+                            int32_t count, int32_t first, T* results) {
   typename Chain::Element elements[longest_forked_block];
   for (int32_t k = 0; k < count; ++k)
     arrays.sources_at(places[k], [&](auto*... src) { elements[k].start(context, src...); });
@@ -198,39 +197,35 @@ DAKVM_INLINE void run_chain(const Context& context, const Arrays& arrays, const 
   Chain::Stages::advance(elements, count, context);
 #pragma GCC unroll 2
   for (int32_t k = 0; k < count; ++k)
-    arrays.store(places[k], Chain::Stages::finish(elements[k], context));
+    results[places[k] - first] = x87::narrow<T>(Chain::Stages::finish(elements[k], context));
 }
 
-template <class Kernel, class... Chain, class Context, class Arrays, class Report>
-DAKVM_INLINE void run_forked_block(Chains<Chain...>, const Context& context, const Arrays& arrays,
-                                   int32_t first, int32_t length, Report& report) {
+template <class Kernel, class... Chain, class Context, class T, int sources, class Report>
+DAKVM_INLINE void run_forked_block(Chains<Chain...>, const Context& context,
+                                   const Arrays<T, sources, 1>& arrays, int32_t first,
+                                   int32_t length, Report& report) {
   constexpr int32_t ways = sizeof...(Chain) + 1;
   int32_t places[ways][longest_forked_block];
   int32_t counts[ways] = {};
-  const auto each_way = [&]<int32_t... way>(std::integer_sequence<int32_t, way...>, auto&& visit) {
-    (visit(std::integral_constant<int32_t, way>{}), ...);
-  };
-  constexpr std::make_integer_sequence<int32_t, ways> all_ways;
+  T results[longest_forked_block];
+
   for (int32_t i = first; i < first + length; ++i) {
-    const int32_t taken = arrays.sources_at(i, [&](auto*... src) {
-      return Kernel::chain_of(context, Bits<std::remove_cvref_t<decltype(*src)>>::read(src)...);
-    });
-    each_way(all_ways, [&](auto way) {
-      places[way][counts[way]] = i;
-      counts[way] += taken == way;
-    });
+    const int32_t taken = arrays.sources_at(
+        i, [&](auto*... src) { return Kernel::chain_of(context, Bits<T>::read(src)...); });
+    [&]<int32_t... way>(std::integer_sequence<int32_t, way...>) {
+      ((places[way][counts[way]] = i, counts[way] += taken == way), ...);
+    }
+    (std::make_integer_sequence<int32_t, ways>{});
   }
   int32_t way = 0;
-  ((run_chain<Chain>(context, arrays, places[way], counts[way]), ++way), ...);
-  for (int32_t s = 0; s < counts[way]; ++s)
-    report.note(places[way][s], arrays.at(places[way][s], [&](auto*... p) {
-      return Kernel::apply(context, p...);
-    }));
+  ((run_chain<Chain>(context, arrays, places[way], counts[way], first, results), ++way), ...);
+  complete<Kernel>(context, arrays, first, length, places[way], counts[way], report,
+                   [&](int32_t i) { arrays.store(i, results[i - first]); });
 }
 
 template <Forked Kernel, class Context, class Arrays, class Report>
 DAKVM_INLINE void walk(const Context& context, const Arrays& arrays, int32_t len, Report& report) {
-  const int32_t block = arrays.forked_block_length();
+  const int32_t block = arrays.block_length(longest_forked_block);
   for (int32_t i = 0; i < len; i += block)
     run_forked_block<Kernel>(typename Kernel::Chains{}, context, arrays, i,
                              len - i < block ? len - i : block, report);

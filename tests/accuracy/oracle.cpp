@@ -53,6 +53,8 @@ constexpr Reference references[] = {
     {"Ln", mpfr_log, nullptr},
     {"Log10", mpfr_log10, nullptr},
     {"Pow", nullptr, mpfr_pow},
+    {"Asin", mpfr_asin, nullptr},
+    {"Acos", mpfr_acos, nullptr},
     {"Atanh", mpfr_atanh, nullptr},
     {"Asinh", mpfr_asinh, nullptr},
     {"Acosh", mpfr_acosh, nullptr},

@@ -1,5 +1,5 @@
 // Inverse hyperbolic functions: special arguments, both sides of every bound, symmetry.
-#include "arrays.hpp"
+#include "properties.hpp"
 
 namespace dakvm::test {
 namespace {
@@ -129,17 +129,23 @@ TEST(InverseHyperbolic, PathsMeet) {
   }
 }
 
-TEST(InverseHyperbolic, Odd) {
-  for (const char* family : {"Atanh", "Asinh"}) {
-    expect_odd<double>(family, mixed_words<double>(5000, -1, 1, 0.3, 6));
-    expect_odd<float>(family, mixed_words<float>(5000, -1, 1, 0.3, 6));
+TEST(InverseHyperbolic, OddInEveryRoundingMode) {
+  const auto words = mixed_words<double>(5000, 0, 0.99, 0, 6);
+  const auto single_words = mixed_words<float>(5000, 0, 0.99, 0, 6);
+  for (int rounding = 0; rounding < 4; ++rounding) {
+    const ScopedModes modes(3, rounding);
+    for (const char* family : {"Atanh", "Asinh"}) {
+      expect_symmetry<double>(function_named(family, registry::Type::f64, "A53"), words, minus);
+      expect_symmetry<float>(function_named(family, registry::Type::f32, "A24"), single_words,
+                             minus_f);
+    }
   }
 }
 
 TEST(InverseHyperbolic, GradesAgree) {
   for (const char* family : {"Atanh", "Asinh", "Acosh"}) {
-    expect_equal_grades<double>(family, mixed_words<double>(5000, 0, 1.2, 0.3, 7));
-    expect_equal_grades<float>(family, mixed_words<float>(5000, 0, 1.2, 0.3, 7));
+    expect_grades_agree<double>(family, mixed_words<double>(5000, 0, 1.2, 0.3, 7));
+    expect_grades_agree<float>(family, mixed_words<float>(5000, 0, 1.2, 0.3, 7));
   }
 }
 

@@ -1,5 +1,5 @@
 // Logarithms: special arguments, both sides of every bound, exact results.
-#include "arrays.hpp"
+#include "properties.hpp"
 
 namespace dakvm::test {
 namespace {
@@ -79,7 +79,7 @@ TEST(Log, PathsMeet) {
 // Single precision carries the double algorithm: its grades agree.
 TEST(Log, GradesThatShareCodeAgree) {
   const auto words = mixed_words<float>(20000, 0.9, 1.1, 0.3, 5);
-  for (const char* family : {"Ln", "Log10"}) expect_equal_grades<float>(family, words);
+  for (const char* family : {"Ln", "Log10"}) expect_grades_agree<float>(family, words);
 }
 
 }  // namespace

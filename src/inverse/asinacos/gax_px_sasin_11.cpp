@@ -1,0 +1,14 @@
+// daksAsin_32f_A11: asin(x) over an array, single precision, 11-bit grade.
+#include "inverse/asinacos/asinacos_kernel.hpp"
+
+namespace {
+constexpr char _GAX_THISFUNC_NAME[] = "";
+constexpr dakvm::inverse::AsinTable _gaxdASinHATab = {
+#include "inverse/asinacos/asin_ha_64f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksAsin_32f_A11(const float* src, float* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::inverse::AsinKernel<float>>(src, dst, len, _gaxdASinHATab,
+                                                              _GAX_THISFUNC_NAME);
+}
