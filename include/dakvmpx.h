@@ -249,7 +249,7 @@ int32_t daksAcos_32f_A24(const float* src, float* dst, int32_t len);
  * 1/8 a polynomial. 32f: the same algorithm, rounded once. Odd bit for bit, in every rounding mode.
  *
  * Domain:   all numbers; no argument is exceptional. Infinities give themselves.
- * Accuracy: 64f 0.5041 ulp, near 1/8, 99.97 % correctly rounded; 32f none misrounded
+ * Accuracy: 64f 0.5041 ulp, near 1/8, 99.97 % correctly rounded; 32f none of 3.5e8 misrounded.
  * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400, for the table of the logarithm; T. J. Dekker,
  *           Numer. Math. 18 (1971) 224-242.
  * @{ */
@@ -267,7 +267,7 @@ int32_t daksAsinh_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   [1, +Inf]; the result at 1 is +0. Smaller numbers, -Inf included, are
  *           DAKVM_STATUS_DOMAIN, the result NaN.
- * Accuracy: 64f 0.5010 ulp, 99.97 % correctly rounded; 32f none misrounded
+ * Accuracy: 64f 0.5010 ulp, 99.97 % correctly rounded; 32f none of 10^5 misrounded.
  * Source:   as for the sine.
  * @{ */
 int32_t daksAcosh_64f_A50(const double* src, double* dst, int32_t len);
