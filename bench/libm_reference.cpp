@@ -39,6 +39,9 @@ constexpr auto Atan = DAKVM_LIBM(atan);
 constexpr auto Atan2 = DAKVM_LIBM(atan2);
 constexpr auto Asin = DAKVM_LIBM(asin);
 constexpr auto Acos = DAKVM_LIBM(acos);
+constexpr auto Atanh = DAKVM_LIBM(atanh);
+constexpr auto Asinh = DAKVM_LIBM(asinh);
+constexpr auto Acosh = DAKVM_LIBM(acosh);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

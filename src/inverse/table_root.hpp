@@ -75,7 +75,7 @@ struct TableRoot {
     const Ext T = seed(t);
     const Ext e = Ext{a} + b;
     const Ext g = e * (t.g0 + e * (t.g1 + e * inner));
-    return (T * g * v + low * T) * scale;
+    return (T * g * (cut.high() + low) + low * T) * scale;
   }
 
  private:

@@ -83,6 +83,11 @@ DAKVM_INLINE void put_words(double& number, uint32_t high, uint32_t low) {
   __builtin_memcpy(&number, &bits, sizeof number);
 }
 
+// Likewise: loaded a stage later.
+DAKVM_INLINE void put_high_word(double& number, uint32_t high) {
+  __builtin_memcpy(reinterpret_cast<char*>(&number) + sizeof high, &high, sizeof high);
+}
+
 DAKVM_INLINE void put_word(float& number, uint32_t word) {
   __builtin_memcpy(&number, &word, sizeof number);
 }
@@ -98,6 +103,20 @@ DAKVM_INLINE void put_mantissa(double& number, Bits<float> x, uint32_t exponent)
 
 DAKVM_INLINE void put_mantissa(float& number, Bits<float> x, uint32_t exponent) {
   put_word(number, (x.word & 0x7fffff) | (0x3f800000 + (exponent << 23)));
+}
+
+// |x|
+DAKVM_INLINE void put_magnitude(double& number, Bits<double> x) {
+  put_words(number, x.magnitude(), x.low);
+}
+DAKVM_INLINE void put_magnitude(float& number, Bits<float> x) { put_word(number, x.magnitude()); }
+
+// 2^exponent with the sign of x: the factor that gives an odd function's result its sign.
+DAKVM_INLINE void put_signed_power(double& number, Bits<double> x, int32_t exponent) {
+  put_words(number, (x.high & 0x80000000) | static_cast<uint32_t>(1023 + exponent) << 20, 0);
+}
+DAKVM_INLINE void put_signed_power(float& number, Bits<float> x, int32_t exponent) {
+  put_word(number, (x.word & 0x80000000) | static_cast<uint32_t>(127 + exponent) << 23);
 }
 
 // 2^(biased - 1023), for biased in [1, 2046]; of larger numbers the low 11 bits count.

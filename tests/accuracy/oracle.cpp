@@ -71,6 +71,9 @@ constexpr Reference references[] = {
     {"atan2", nullptr, mpfr_atan2},
     {"Asin", mpfr_asin, nullptr},
     {"Acos", mpfr_acos, nullptr},
+    {"Atanh", mpfr_atanh, nullptr},
+    {"Asinh", mpfr_asinh, nullptr},
+    {"Acosh", mpfr_acosh, nullptr},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar

@@ -1,8 +1,10 @@
-// Tables of src/exponential/log: gentables_log ln_50_64f | ln_ha_64f | log10_50_64f | log10_ha_64f
+// Tables of src/exponential/log:
+// gentables_log ln_rows | ln_50_64f | ln_ha_64f | log10_50_64f | log10_ha_64f
 #include <cmath>
 #include <cstring>
 
 #include "gentables.hpp"
+#include "natural_log.hpp"
 
 using namespace gentables;
 
@@ -11,13 +13,6 @@ namespace {
 constexpr double series[] = {0x1.5555555555558p-1, 0x1.999999999522ep-2, 0x1.2492492e02b0fp-2,
                              0x1.c71c62d1c74bdp-3, 0x1.7462b9b7ccdd6p-3, 0x1.39fdc7dfcb5e0p-3,
                              0x1.2b5f0a4037c5ap-3};
-constexpr double natural[] = {-0x1p-1,
-                              0x1.5555555555613p-2,
-                              -0x1.0000000000262p-2,
-                              0x1.9999997b36c81p-3,
-                              -0x1.555555228b38fp-3,
-                              0x1.249c02481059dp-3,
-                              -0x1.000b405a2836dp-3};
 constexpr double decimal[] = {0x1.a7a6cbf2e4107p-10, -0x1.27af2dc77b115p+0, 0x1.c6a02dc963a31p+0,
                               -0x1.8930964d42479p+1, 0x1.6ab9f7b1efe5cp+2,  -0x1.5c90e698cfb68p+3,
                               0x1.58992e1b1aa78p+4,  -0x1.5b3214e75eea2p+5};
@@ -35,12 +30,10 @@ struct Kind {
 Real natural_log(const Real& x) { return log(x); }
 Real decimal_log(const Real& x) { return log(x) / log(Real(10)); }
 
-// log(1 + v) as the kernels sum it, exactly.
-Real natural_sum(const Real& v) {
-  Real sum = Real(natural[6]);
-  for (int i = 5; i >= 0; --i) sum = sum * v + Real(natural[i]);
-  return v + v * v * sum;
-}
+constexpr Kind natural_kind = {-11, 21, 5 * 0x1p-9, 1, natural_log};
+constexpr Kind decimal_kind = {-7, 23, 3 * 0x1p-9, k, decimal_log};
+
+// log10(1 + v) as the kernels sum it, exactly.
 Real decimal_sum(const Real& v) {
   const Real w = v * Real(k);
   Real sum = Real(decimal[7]);
@@ -95,13 +88,14 @@ void check_rows(const Kind& kind) {
 
 void print_rows(const Kind& kind) {
   check_rows(kind);
-  std::printf(".rows = {\n");
   for (int j = 0; j <= 64; ++j) {
     const double R = reciprocal(kind, j), hi = j == 0 ? 0 : high_part(kind, j);
     const Real lo = Real() - kind.log(Real(R)) - Real(hi);
     std::printf("  {%a, %a, %a},\n", kind.factor_scale * R, hi, j == 0 ? 0 : lo.nearest());
   }
-  std::printf("},\n");
+}
+
+void print_constants(const Kind& kind) {
   scalar("log_2_hi", high_part(kind, 64));
   scalar("log_2_lo", (kind.log(Real(2)) - Real(high_part(kind, 64))).nearest());
   scalar("shifter", 0x1p+46 + 1);
@@ -110,10 +104,6 @@ void print_rows(const Kind& kind) {
   scalar("raise", 0x1p+60);
   scalar("zero", 0);
   scalar("one", 1);
-}
-
-void coefficients(const char* letter, int first, const double* values, int count) {
-  for (int i = 0; i < count; ++i) std::printf(".%s%d = %a,\n", letter, first + i, values[i]);
 }
 
 void low(bool is_natural) {
@@ -149,16 +139,23 @@ int main(int argc, char** argv) {
     low(true);
   } else if (std::strcmp(table, "log10_50_64f") == 0) {
     low(false);
+  } else if (std::strcmp(table, "ln_rows") == 0) {
+    print_rows(natural_kind);
   } else if (std::strcmp(table, "ln_ha_64f") == 0) {
-    print_rows({-11, 21, 5 * 0x1p-9, 1, natural_log});
-    coefficients("b", 2, natural, 7);
+    natural_rows();
+    print_constants(natural_kind);
+    natural_coefficients();
   } else if (std::strcmp(table, "log10_ha_64f") == 0) {
     check(k == (Real(1) / log(Real(10))).nearest(8), "k is not log10(e) in 8 bits");
-    print_rows({-7, 23, 3 * 0x1p-9, k, decimal_log});
+    std::printf(".rows = {\n");
+    print_rows(decimal_kind);
+    std::printf("},\n");
+    print_constants(decimal_kind);
     scalar("k", k);
     coefficients("d", 1, decimal, 8);
   } else {
-    std::fprintf(stderr, "usage: gentables_log ln_50_64f|ln_ha_64f|log10_50_64f|log10_ha_64f\n");
+    std::fprintf(stderr,
+                 "usage: gentables_log ln_rows|ln_50_64f|ln_ha_64f|log10_50_64f|log10_ha_64f\n");
     return 2;
   }
 }

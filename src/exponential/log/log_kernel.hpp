@@ -175,8 +175,9 @@ struct TableElement {
   DAKVM_INLINE static Ext sum(const Log10Table& t, Ext hi, Ext lo, Ext product, Ext c);
 };
 
-// ln(1 + v) - v
-DAKVM_INLINE Ext polynomial(const LnTable& t, Ext v) {
+// ln(1 + v) - v, also for other tables with these coefficients
+template <class Table>
+DAKVM_INLINE Ext polynomial(const Table& t, Ext v) {
   return v * v * ((((((t.b8 * v + t.b7) * v + t.b6) * v + t.b5) * v + t.b4) * v + t.b3) * v + t.b2);
 }
 

@@ -1,0 +1,13 @@
+// daksAtanh_32f_A21: artanh(x) over an array, single precision, 21-bit grade.
+#include "inverse/atanh/atanh_32f.hpp"
+
+namespace {
+constexpr char _GAX_THISFUNC_NAME[] = "";
+constexpr dakvm::atanh::LnTable sLnTab = {
+#include "inverse/atanh/atanh_32f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksAtanh_32f_A21(const float* src, float* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::atanh::SingleKernel>(src, dst, len, sLnTab, _GAX_THISFUNC_NAME);
+}
