@@ -212,6 +212,20 @@ int32_t daksPowx_32f_A21(const float* src, float exponent, float* dst, int32_t l
 int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t len);
 /** @} */
 
+/** An argument less a multiple of pi/2, as the unevaluated sum of two numbers: hi is the nearest
+ * double, lo the rest. */
+typedef struct ReducedArg {
+  double hi;
+  double lo;
+} ReducedArg;
+
+/** Reduction by pi/2 of the double with the words `low` and `high`, finite and of magnitude at least
+ * pi/4: writes r = x - Q pi/2, |r| <= pi/4, and returns Q modulo 4. Q is exact for every argument;
+ * hi + lo is r to a relative 2^-78, in 53-bit precision 2^-75. An argument of magnitude just below an
+ * odd multiple of pi/4 may go either way. Infinities, NaN and smaller numbers give no meaningful
+ * result, and no report. Source: M. H. Payne and R. N. Hanek, ACM SIGNUM 18 (1983) 19-24. */
+int32_t gaxreduce_pio2d(uint32_t low, uint32_t high, ReducedArg* reduced);
+
 /** Square root of one double, by a polynomial for the reciprocal root and one Newton step. The
  * result is returned without a last rounding, in 64 significant bits. Negative numbers and -Inf
  * give the NaN 0x7FF8A5A55A5A5A5A, -0 itself. No status, no notification. Accuracy after a store
