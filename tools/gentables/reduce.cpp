@@ -46,8 +46,10 @@ unsigned long chunk_of(int bits) {
 
 int main() {
   std::printf("constexpr double _PI04_INV = %a;\n", (Real(4) / pi()).nearest());
-  print_pieces("_PI04_29x4", {0x1.921fb54p-1, 0x1.10b4612p-31, -0x1.676733cp-61}, 29);
-  print_pieces("_PI04_21x5", {0x1.921fap-1, 0x1.54443p-21, -0x1.73dcap-44, -0x1.3b39ap-64}, 21);
+  print_pieces("_PI04_29x5", {0x1.921fb54p-1, 0x1.10b4612p-31, -0x1.676733cp-61, 0x1.1701b84p-89},
+               29);
+  print_pieces("_PI04_21x6",
+               {0x1.921fap-1, 0x1.54443p-21, -0x1.73dcap-44, -0x1.3b39ap-64, 0x1.45c07p-87}, 21);
   print_pieces("_PI04_25x2", {0x1.921fb4p-1}, 25);
   std::printf("constexpr double _DP[50] = {\n  0.0,\n");
   for (int k = 1; k < 50; ++k) {

@@ -55,17 +55,19 @@ DAKVM_INLINE Octant reduce_medium(const double& x, uint32_t magnitude) {
   const auto even = static_cast<int32_t>(n + n % 2);
   const Ext k = even;
   if (magnitude < 0x41600000) {  // 2^23
-    Accumulator r{x - k * _PI04_29x4[0], 0};
-    r.add(-k * _PI04_29x4[1]);
-    r.add(-k * _PI04_29x4[2]);
-    return {n, r.head, r.tail - k * _PI04_29x4[3]};
+    Accumulator r{x - k * _PI04_29x5[0], 0};
+    r.add(-k * _PI04_29x5[1]);
+    r.add(-k * _PI04_29x5[2]);
+    r.add(-k * _PI04_29x5[3]);
+    return {n, r.head, r.tail - k * _PI04_29x5[4]};
   }
-  Accumulator r{x - k * _PI04_21x5[0], 0};
-  r.add(-k * _PI04_21x5[1]);
-  r.add(-k * _PI04_21x5[2]);
+  Accumulator r{x - k * _PI04_21x6[0], 0};
+  r.add(-k * _PI04_21x6[1]);
+  r.add(-k * _PI04_21x6[2]);
   r.fold_tail();
-  r.add(-k * _PI04_21x5[3]);
-  return {n, r.head, r.tail - k * _PI04_21x5[4]};
+  r.add(-k * _PI04_21x6[3]);
+  r.add(-k * _PI04_21x6[4]);
+  return {n, r.head, r.tail - k * _PI04_21x6[5]};
 }
 
 DAKVM_INLINE Octant reduce_large(uint32_t low, uint32_t magnitude) {
