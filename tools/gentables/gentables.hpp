@@ -77,7 +77,9 @@ GENTABLES_FUNCTION(exp2, mpfr_exp2)
 GENTABLES_FUNCTION(expm1, mpfr_expm1)
 GENTABLES_FUNCTION(log, mpfr_log)
 GENTABLES_FUNCTION(log2, mpfr_log2)
+GENTABLES_FUNCTION(sin, mpfr_sin)
 GENTABLES_FUNCTION(cos, mpfr_cos)
+GENTABLES_FUNCTION(tan, mpfr_tan)
 GENTABLES_FUNCTION(abs, mpfr_abs)
 #undef GENTABLES_FUNCTION
 
