@@ -28,6 +28,10 @@ constexpr auto Ln = DAKVM_LIBM(log);
 constexpr auto Log10 = DAKVM_LIBM(log10);
 constexpr auto Pow = DAKVM_LIBM(pow);
 constexpr auto Powx = Pow;
+constexpr auto Sin = DAKVM_LIBM(sin);
+constexpr auto Cos = DAKVM_LIBM(cos);
+constexpr auto SinCos = DAKVM_LIBM(sincos);
+constexpr auto Tan = DAKVM_LIBM(tan);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -212,6 +212,72 @@ int32_t daksPowx_32f_A21(const float* src, float exponent, float* dst, int32_t l
 int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t len);
 /** @} */
 
+/** \name Sine
+ * dst[i] = sin(src[i]), src in radians. 64f: reduction by pi/32, from 2^17 on by pi/2 first; a table of
+ * 64 sines and cosines, Taylor polynomials. 32f: reduction by pi, a polynomial; above 1000000 the
+ * double algorithm in 53-bit precision.
+ *
+ * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. sin(-x) = -sin(x),
+ *           zeros keep their sign.
+ * Accuracy: 64f 0.525 ulp, 99.91 % correctly rounded, of every magnitude and next to multiples of pi.
+ * Source:   P. T. P. Tang, 10th IEEE Symp. Computer Arithmetic (1991) 232-236, for reduction to the
+ *           points of a table; M. H. Payne and R. N. Hanek, ACM SIGNUM 18 (1983) 19-24.
+ * @{ */
+int32_t daksSin_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksSin_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksSin_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksSin_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksSin_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Cosine
+ * dst[i] = cos(src[i]), src in radians: as the sine, 32f from 500000 on with the double algorithm.
+ *
+ * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. cos(-x) = cos(x).
+ * Accuracy: 64f 0.525 ulp, 99.91 % correctly rounded; 0.60 ulp at 0x1.65a1dd290660fp+16 alone, the
+ *           number below 2^17 that is nearest to a zero.
+ * Source:   as the sine.
+ * @{ */
+int32_t daksCos_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksCos_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksCos_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksCos_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksCos_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
+/** \name Sine and cosine
+ * dst1[i] = sin(src[i]), dst2[i] = cos(src[i]): one reduction for both. 64f: bit for bit the results of
+ * the two functions above.
+ *
+ * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, both results NaN.
+ * Accuracy: 64f as sine and cosine.
+ * Source:   as the sine.
+ * @{ */
+int32_t daksSinCos_64f_A50(const double* src, double* dst1, double* dst2, int32_t len);
+int32_t daksSinCos_64f_A53(const double* src, double* dst1, double* dst2, int32_t len);
+int32_t daksSinCos_32f_A11(const float* src, float* dst1, float* dst2, int32_t len);
+int32_t daksSinCos_32f_A21(const float* src, float* dst1, float* dst2, int32_t len);
+int32_t daksSinCos_32f_A24(const float* src, float* dst1, float* dst2, int32_t len);
+/** @} */
+
+/** \name Tangent
+ * dst[i] = tan(src[i]), src in radians. 64f: reduction by pi/32, from 12800 on by pi/2 first; a table of
+ * 32 expansions, those around a pole of what is left of tan(x) without it; the pole is one division.
+ * 32f: reduction by pi/2, a quotient; above 128000 the double algorithm in 53-bit precision.
+ *
+ * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. No number is a pole:
+ *           next to one results are large and finite. Zeros keep their sign.
+ * Accuracy: 64f 0.524 ulp, 99.84 % correctly rounded, of every magnitude and next to zeros and poles.
+ * Source:   T. J. Dekker, Numer. Math. 18 (1971) 224-242, for sums in two parts; M. H. Payne and
+ *           R. N. Hanek as the sine.
+ * @{ */
+int32_t daksTan_64f_A50(const double* src, double* dst, int32_t len);
+int32_t daksTan_64f_A53(const double* src, double* dst, int32_t len);
+int32_t daksTan_32f_A11(const float* src, float* dst, int32_t len);
+int32_t daksTan_32f_A21(const float* src, float* dst, int32_t len);
+int32_t daksTan_32f_A24(const float* src, float* dst, int32_t len);
+/** @} */
+
 /** An argument less a multiple of pi/2, as the unevaluated sum of two numbers: hi is the nearest
  * double, lo the rest. */
 typedef struct ReducedArg {
