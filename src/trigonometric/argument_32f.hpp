@@ -7,20 +7,17 @@
 namespace dakvm::trig {
 using namespace x87;
 
-// An integer N, as a float's sum with 1.5 * 2^23.
-class Shifted {
- public:
-  DAKVM_INLINE explicit Shifted(Ext sum) : sum_(narrow<float>(sum)) { settle(this); }
+// An argument with the nearest integer N to a multiple of it; N stands in the low bits of N plus
+// 1.5 * 2^23.
+struct Shifted {
+  float x, sum;
 
-  DAKVM_INLINE uint32_t low_bits() const { return Bits<float>::read(&sum_).word; }
-  DAKVM_INLINE Ext less(double shifter) const { return Ext{sum_} - shifter; }
-
- private:
-  float sum_;
+  DAKVM_INLINE void take(const float* src, Ext multiple, double shifter) {
+    x = narrow<float>(*src);
+    sum = narrow<float>(multiple + shifter);
+  }
+  DAKVM_INLINE uint32_t N() const { return Bits<float>::read(&sum).word; }
+  DAKVM_INLINE Ext n(double shifter) const { return Ext{sum} - shifter; }
 };
-
-DAKVM_INLINE void flip_sign(float& number, uint32_t odd) {
-  put_word(number, Bits<float>::read(&number).word ^ odd << 31);
-}
 
 }  // namespace dakvm::trig

@@ -2,11 +2,11 @@
 //
 // Method     N = nearest(2 x/pi), r = x - N pi/2, |r| <= pi/4; tan(r) = P/Q with P = r + p3 r^3,
 //            Q = 1 + q2 r^2 + q4 r^4; tan(x) = P/Q for even N, -Q/P for odd N.
-// Exactness  The head of pi/2 has 33 bits and |N| < 2^17: N head and its sum with x are exact, r is
+// Exactness  The head of pi/2 has 35 bits and |N| < 2^17: N head and its sum with x are exact, r is
 //            off by 2^-69.
 // Error      P/Q has 25 bits near pi/4 and 33 near 0; with the store 0.936 ulp.
-// Special    Above 128000, infinities and NaN: the scalar kernel. Zeros as well: P would lose the
-//            sign.
+// Special    Above 128000, infinities, NaN: the scalar kernel; zeros as well, whose sign P would
+//            lose. Subnormal numbers: P/Q alone, since Q/P overflows.
 // Source     J. F. Hart et al., Computer Approximations (1968), for quotients of this kind. Table:
 //            tools/gentables/trig_32f.cpp.
 #pragma once
@@ -23,20 +23,51 @@ struct Table32 {
   double one;
 };
 
-struct Kernel32 {
-  DAKVM_INLINE static Status apply(const Table32& t, const float* src, float* dst) {
-    constexpr uint32_t bound = 0x47fa0000;  // 128000
-    if (Bits<float>::read(src).magnitude() - 1 > bound - 1) [[unlikely]]
-      return scalar::_dTan(src, dst);
-    const Ext x = *src;
-    const trig::Shifted N(x * t.inv_half_pi + t.shifter);
-    const Ext n = N.less(t.shifter);
-    const Ext r = x + n * t.minus_half_pi + n * t.minus_half_pi_lo;
+// P/Q and -Q/P; N says which of them is the tangent. Two divisions cost less than a branch that
+// every other argument misleads.
+struct Quotients {
+  float of_r[2];
+  uint32_t N;
+
+  DAKVM_INLINE void store_to(float* dst) const {
+    put_word(*dst, Bits<float>::read(of_r + N % 2).word);
+  }
+};
+
+struct Element32 : trig::Shifted {
+  DAKVM_INLINE void start(const Table32& t, const float* src) {
+    take(src, *src * Ext{t.inv_half_pi}, t.shifter);
+  }
+  DAKVM_INLINE Quotients finish(const Table32& t) const {
+    const Ext m = n(t.shifter);
+    const Ext r = x + m * t.minus_half_pi + m * t.minus_half_pi_lo;
+    const auto [P, Q] = parts(t, r);
+    return {{narrow<float>(P / Q), narrow<float>(-Q / P)}, N()};
+  }
+
+  struct Parts {
+    Ext P, Q;
+  };
+  DAKVM_INLINE static Parts parts(const Table32& t, Ext r) {
     const Ext z = r * r;
-    const Ext P = r + r * z * t.p3;
-    const Ext Q = z * (t.q4 * z + t.q2) + t.one;
-    const bool odd = N.low_bits() % 2 != 0;
-    *dst = narrow<float>((odd ? -Q : P) / (odd ? P : Q));
+    return {r + r * z * t.p3, z * (t.q4 * z + t.q2) + t.one};
+  }
+};
+
+struct Kernel32 {
+  using Element = Element32;
+  using Stages = frame::Pipeline<&Element::finish>;
+
+  DAKVM_INLINE static bool is_ordinary(const Table32&, Bits<float> x) {
+    constexpr uint32_t least = 0x00800000, bound = 0x47fa0000;  // 2^-126, 128000
+    return x.magnitude() - least <= bound - least;
+  }
+
+  [[gnu::cold, gnu::noinline]] static Status apply(const Table32& t, const float* src, float* dst) {
+    const auto bits = Bits<float>::read(src);
+    if (bits.is_zero() || bits.exponent() != 0) return scalar::_dTan(src, dst);
+    const auto [P, Q] = Element::parts(t, *src);
+    *dst = narrow<float>(P / Q);
     return Status::ok;
   }
 };
