@@ -292,6 +292,49 @@ typedef struct ReducedArg {
  * result, and no report. Source: M. H. Payne and R. N. Hanek, ACM SIGNUM 18 (1983) 19-24. */
 int32_t gaxreduce_pio2d(uint32_t low, uint32_t high, ReducedArg* reduced);
 
+/** \name Scalar trigonometric entries
+ * Sine, cosine, both, or tangent of element i: src[i] to dst[i], in 53-bit precision and rounding
+ * to nearest whatever the caller's control word, which is left as it was. Arguments of floats are
+ * computed as doubles. An infinity gives NaN, is notified by gaxdError or gaxsError with the index,
+ * the arrays and a name ("dSin_A11"; of the forms without a suffix the caller's), and writes
+ * DAKVM_STATUS_DOMAIN to *status; *status is written in no other case. The forms differ in the name
+ * alone.
+ * Accuracy: double 0.5165 ulp, tangent 0.539 ulp; float none of 10^7 misrounded.
+ * @{ */
+void gaxdSin_SC(int32_t i, const double* src, double* dst, int32_t* status, const char* name);
+void gaxdSin_SC_A11(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdSin_SC_LA(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdSin_SC_HA(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdCos_SC(int32_t i, const double* src, double* dst, int32_t* status, const char* name);
+void gaxdCos_SC_A11(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdCos_SC_LA(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdCos_SC_HA(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdSinCos_SC(int32_t i, const double* src, double* sines, double* cosines, int32_t* status,
+                   const char* name);
+void gaxdSinCos_SC_A11(int32_t i, const double* src, double* sines, double* cosines,
+                       int32_t* status);
+void gaxdSinCos_SC_LA(int32_t i, const double* src, double* sines, double* cosines,
+                      int32_t* status);
+void gaxdSinCos_SC_HA(int32_t i, const double* src, double* sines, double* cosines,
+                      int32_t* status);
+void gaxdTan_SC(int32_t i, const double* src, double* dst, int32_t* status, const char* name);
+void gaxdTan_SC_A11(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdTan_SC_LA(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxdTan_SC_HA(int32_t i, const double* src, double* dst, int32_t* status);
+void gaxsSin_SC_A11(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsSin_SC_LA(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsSin_SC_HA(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsCos_SC_A11(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsCos_SC_LA(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsCos_SC_HA(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsSinCos_SC_A11(int32_t i, const float* src, float* sines, float* cosines, int32_t* status);
+void gaxsSinCos_SC_LA(int32_t i, const float* src, float* sines, float* cosines, int32_t* status);
+void gaxsSinCos_SC_HA(int32_t i, const float* src, float* sines, float* cosines, int32_t* status);
+void gaxsTan_SC_A11(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsTan_SC_LA(int32_t i, const float* src, float* dst, int32_t* status);
+void gaxsTan_SC_HA(int32_t i, const float* src, float* dst, int32_t* status);
+/** @} */
+
 /** Square root of one double, by a polynomial for the reciprocal root and one Newton step. The
  * result is returned without a last rounding, in 64 significant bits. Negative numbers and -Inf
  * give the NaN 0x7FF8A5A55A5A5A5A, -0 itself. No status, no notification. Accuracy after a store
