@@ -117,24 +117,9 @@ struct Element {
     settle(&t);
     const Row& c = row(t);
     const Ext x = r.hi;
-    const Ext series =
-        ((((((((((((c.c15 * x + c.c14) * x + c.c13) * x + c.c12) * x + c.c11) * x + c.c10) * x +
-               c.c9) *
-                  x +
-              c.c8) *
-                 x +
-             c.c7) *
-                x +
-            c.c6) *
-               x +
-           c.c5) *
-              x +
-          c.c4) *
-             x +
-         c.c3) *
-            x +
-        c.c2;
-    Ext P = x * x * series;
+    Ext P = (((c.c15 * x + c.c14) * x + c.c13) * x + c.c12) * x + c.c11;
+    P = ((((P * x + c.c10) * x + c.c9) * x + c.c8) * x + c.c7) * x + c.c6;
+    P = x * x * ((((P * x + c.c5) * x + c.c4) * x + c.c3) * x + c.c2);
     P = P + (c.slope1 * x - S1 + c.slope2 * x);
     P = P + (leading(c) - S2 + S1);
     const Ext E = (s.lo + (Ext{s.hi} - s_t)) * R;
