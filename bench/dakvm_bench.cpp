@@ -25,20 +25,41 @@ using registry::Type;
 
 constexpr int32_t elements = 1024;
 
-// Arrays in the first-level cache, arguments spread evenly over the family's interval.
+// A function over its family's interval, or a periodic one over wide arguments, which it has to
+// reduce: from 2^17 to 2^60, their logarithms spread evenly.
+struct Workload {
+  const Function& function;
+  bool wide;
+};
+
+std::vector<Workload> workloads() {
+  std::vector<Workload> all;
+  for (const Function& f : registry::functions) all.push_back({f, false});
+  for (const Function& f : registry::functions)
+    for (const std::string_view periodic : {"Sin", "Cos", "SinCos", "Tan"})
+      if (f.family.name == periodic && f.type == Type::f64) all.push_back({f, true});
+  return all;
+}
+
+// Arrays in the first-level cache, arguments spread evenly over the interval.
 template <class T>
 struct Arrays {
   std::vector<T> src1, src2, dst1, dst2;
   T exponent;
 
-  explicit Arrays(const Family& family)
+  explicit Arrays(const Workload& workload)
       : src1(elements), src2(elements), dst1(elements), dst2(elements) {
     std::mt19937_64 random(20011);
-    std::uniform_real_distribution<T> argument(static_cast<T>(family.low),
+    const Family& family = workload.function.family;
+    std::uniform_real_distribution<T> ordinary(static_cast<T>(family.low),
                                                static_cast<T>(family.high));
-    for (T& x : src1) x = argument(random);
-    for (T& x : src2) x = argument(random);
-    exponent = argument(random);
+    std::uniform_real_distribution<T> logarithm(17, 60);
+    const auto argument = [&] {
+      return workload.wide ? std::exp2(logarithm(random)) : ordinary(random);
+    };
+    for (T& x : src1) x = argument();
+    for (T& x : src2) x = argument();
+    exponent = argument();
   }
   Operands<T> operands(int32_t first = 0) {
     return {&src1[first], &src2[first], &dst1[first], &dst2[first], exponent};
@@ -47,8 +68,8 @@ struct Arrays {
 
 // One call for all elements, or as many calls of one element.
 template <class T>
-void time_library(benchmark::State& state, const Function& function, bool one_element_calls) {
-  Arrays<T> arrays(function.family);
+void time_library(benchmark::State& state, const Workload& workload, bool one_element_calls) {
+  Arrays<T> arrays(workload);
   std::visit(
       [&](auto entry) {
         if (one_element_calls) {
@@ -59,13 +80,13 @@ void time_library(benchmark::State& state, const Function& function, bool one_el
           for (auto _ : state) registry::invoke<T>(entry, arrays.operands(), elements);
         }
       },
-      std::get<registry::Entry<T>>(function.entry));
+      std::get<registry::Entry<T>>(workload.function.entry));
   state.SetItemsProcessed(state.iterations() * elements);
 }
 
 template <class T>
-void time_loop(benchmark::State& state, const Family& family, Loop<T> loop) {
-  Arrays<T> arrays(family);
+void time_loop(benchmark::State& state, const Workload& workload, Loop<T> loop) {
+  Arrays<T> arrays(workload);
   for (auto _ : state) loop(arrays.operands(), elements);
   state.SetItemsProcessed(state.iterations() * elements);
 }
@@ -84,9 +105,9 @@ const Reference& reference_of(std::span<const Reference> references, const Famil
 
 // Whether the loop computes what the function does, up to the errors of the coarsest grade.
 template <class T>
-bool same_function(const Function& function, Loop<T> loop) {
-  Arrays<T> ours(function.family), theirs(function.family);
-  function(ours.operands(), elements);
+bool same_function(const Workload& workload, Loop<T> loop) {
+  Arrays<T> ours(workload), theirs(workload);
+  workload.function(ours.operands(), elements);
   loop(theirs.operands(), elements);
   const auto close = [](T a, T b) { return std::abs(a - b) <= std::abs(b) / 256 + T{1} / 65536; };
   return std::ranges::equal(ours.dst1, theirs.dst1, close) &&
@@ -94,33 +115,39 @@ bool same_function(const Function& function, Loop<T> loop) {
 }
 
 // Names are <Family>_<type>/<what>, so that a filter on the first part keeps a table row whole.
-std::string group_name(const Function& f) {
-  return std::string(f.family.name) + "_" + std::string(f.type_name());
+std::string group_name(const Workload& w) {
+  return std::string(w.function.family.name) + "_" + std::string(w.function.type_name()) +
+         (w.wide ? "_wide" : "");
 }
-std::string long_call_name(const Function& f) { return group_name(f) + "/" + std::string(f.name); }
-std::string one_element_name(const Function& f) { return long_call_name(f) + "/one_element_calls"; }
-std::string plain_name(const Function& f) { return group_name(f) + "/libm"; }
-std::string stored_name(const Function& f) { return group_name(f) + "/libm_stored"; }
+std::string row_name(const Workload& w) {
+  return std::string(w.function.name) + (w.wide ? " wide" : "");
+}
+std::string long_call_name(const Workload& w) {
+  return group_name(w) + "/" + std::string(w.function.name);
+}
+std::string one_element_name(const Workload& w) { return long_call_name(w) + "/one_element_calls"; }
+std::string plain_name(const Workload& w) { return group_name(w) + "/libm"; }
+std::string stored_name(const Workload& w) { return group_name(w) + "/libm_stored"; }
 
 template <class T>
-void register_function(const Function& function, bool with_references) {
+void register_workload(const Workload& workload, bool with_references) {
   const auto add = [](const std::string& name, auto run) {
     benchmark::RegisterBenchmark(name.c_str(), run);
   };
-  const Family& family = function.family;
+  const Family& family = workload.function.family;
   const Loop<T> plain = loop_of<T>(reference_of(plain::references(), family));
   const Loop<T> stored = loop_of<T>(reference_of(stored::references(), family));
-  if (!same_function(function, plain) || !same_function(function, stored)) {
+  if (!same_function(workload, plain) || !same_function(workload, stored)) {
     std::fprintf(stderr, "dakvm_bench: %s and its loop in bench/libm_reference.cpp disagree\n",
-                 std::string(function.name).c_str());
+                 row_name(workload).c_str());
     std::exit(1);
   }
   if (with_references) {
-    add(plain_name(function), [=](auto& state) { time_loop<T>(state, family, plain); });
-    add(stored_name(function), [=](auto& state) { time_loop<T>(state, family, stored); });
+    add(plain_name(workload), [=](auto& state) { time_loop<T>(state, workload, plain); });
+    add(stored_name(workload), [=](auto& state) { time_loop<T>(state, workload, stored); });
   }
-  add(long_call_name(function), [&](auto& state) { time_library<T>(state, function, false); });
-  add(one_element_name(function), [&](auto& state) { time_library<T>(state, function, true); });
+  add(long_call_name(workload), [=](auto& state) { time_library<T>(state, workload, false); });
+  add(one_element_name(workload), [=](auto& state) { time_library<T>(state, workload, true); });
 }
 
 // Time-stamp cycles in a nanosecond.
@@ -154,16 +181,16 @@ class Table : public benchmark::BenchmarkReporter {
   }
 
   void Finalize() override {
-    std::printf("%-18s %8s %9s %8s %7s %9s %9s %9s %8s %8s %8s\n", "function", "ns/elem", "Melem/s",
+    std::printf("%-23s %8s %9s %8s %7s %9s %9s %9s %8s %8s %8s\n", "function", "ns/elem", "Melem/s",
                 "TSC/elem", "spread", "libm ns", "stored ns", "ns/call", "x libm", "x stored",
                 "call/el");
-    for (const Function& f : registry::functions) {
-      const auto own = median(long_call_name(f));
+    for (const Workload& w : workloads()) {
+      const auto own = median(long_call_name(w));
       if (!own) continue;
-      const auto plain = median(plain_name(f)), stored = median(stored_name(f));
-      const auto call = median(one_element_name(f));
-      std::printf("%-18s %8.2f %9.1f %8.1f %6.1f%%", std::string(f.name).c_str(), *own, 1e3 / *own,
-                  *own * cycles_per_ns_, 100 * quartile_range(long_call_name(f)) / *own);
+      const auto plain = median(plain_name(w)), stored = median(stored_name(w));
+      const auto call = median(one_element_name(w));
+      std::printf("%-23s %8.2f %9.1f %8.1f %6.1f%%", row_name(w).c_str(), *own, 1e3 / *own,
+                  *own * cycles_per_ns_, 100 * quartile_range(long_call_name(w)) / *own);
       for (const auto& time : {plain, stored, call}) print(time, 9, 2);
       print(plain, 8, 2, *own);
       print(stored, 8, 2, *own);
@@ -201,7 +228,6 @@ class Table : public benchmark::BenchmarkReporter {
 }  // namespace dakvm::bench
 
 int main(int argc, char** argv) {
-  using namespace dakvm;
   using namespace dakvm::bench;
 
   // Flags of the command line come last and so win.
@@ -219,13 +245,13 @@ int main(int argc, char** argv) {
   if (benchmark::ReportUnrecognizedArguments(count, pointers.data())) return 1;
 
   std::string last_group;
-  for (const registry::Function& f : registry::functions) {
-    const bool new_group = group_name(f) != last_group;
-    last_group = group_name(f);
-    if (f.type == Type::f64)
-      register_function<double>(f, new_group);
+  for (const Workload& w : workloads()) {
+    const bool new_group = group_name(w) != last_group;
+    last_group = group_name(w);
+    if (w.function.type == Type::f64)
+      register_workload<double>(w, new_group);
     else
-      register_function<float>(f, new_group);
+      register_workload<float>(w, new_group);
   }
 
   const double cycles_per_ns = time_stamp_rate();

@@ -26,6 +26,8 @@ using namespace x87;
 // At the angle j pi/32: cosine c + Cd, c the power of two nearest to it; sine S + Sl.
 struct Row {
   double Cd, S, Sl, c;
+
+  DAKVM_INLINE Ext C() const { return Ext{Cd} + c; }
 };
 
 struct SinTable {
@@ -50,35 +52,6 @@ static_assert(sizeof(CosTable) == 272 * sizeof(double));
 // Rows from the angle of the sine to that of the cosine.
 constexpr uint32_t quarter_turn = 16;
 
-template <class Table>
-struct Reduction {
-  trig::Argument y;
-  double shifted;  // its low word is N
-
-  DAKVM_INLINE void start(const Table&, const double* x) {
-    constexpr uint32_t wide = 0x41000000;  // 2^17
-    y.take(x, wide);
-  }
-  DAKVM_INLINE void round_to_integer(const Table& t) {
-    shifted = narrow<double>(t.inv_step * Ext{y.hi} + t.shifter);
-  }
-
-  DAKVM_INLINE const Row& row(const Table& t, uint32_t turn) const {
-    return t.rows[(16 * y.q + low_word(shifted) + turn) % 64];
-  }
-
-  struct Remainder {
-    Ext rh, rlow;
-  };
-  DAKVM_INLINE Remainder remainder(const Table& t) const {
-    const Ext n = Ext{shifted} - t.shifter;
-    const Ext a = y.hi - n * t.step1;
-    const Ext m = n * t.step2;
-    const Ext rh = a - m;
-    return {rh, ((a - rh) - m) - n * t.step3 + y.lo};
-  }
-};
-
 // sin(r) - r and cos(r) - 1
 template <class Table>
 DAKVM_INLINE Ext sine_rest(const Table& t, Ext r, Ext z) {
@@ -89,19 +62,51 @@ DAKVM_INLINE Ext cosine_rest(const Table& t, Ext z) {
   return z * (((t.c4 * z + t.c3) * z + t.c2) * z + t.c1);
 }
 
-// One row's share of the polynomials, and the sum that makes its result.
+// One row's share of the polynomials.
 struct Terms {
   double Ps, Pc;
 
   DAKVM_INLINE void set(const Row& row, Ext sine_rest, Ext cosine_rest) {
-    Ps = narrow<double>(sine_rest * (Ext{row.Cd} + row.c));
+    Ps = narrow<double>(sine_rest * row.C());
     Pc = narrow<double>(cosine_rest * row.S);
   }
-  DAKVM_INLINE Ext sum(const Row& row, Ext rh, Ext rlow) const {
-    const Ext D = rlow * ((Ext{row.Cd} + row.c) - rh * row.S) + row.Sl;
-    const Ext A = row.S + row.c * rh;
-    const Ext B = A + row.Cd * rh;
-    return B + ((row.Cd * rh + (A - B)) + ((row.c * rh + (row.S - A)) + (D + (Ext{Ps} + Pc))));
+};
+
+template <class Table>
+struct Reduction {
+  trig::Argument y;
+  double shifted;  // its low word is N
+  double n, a, m;  // N, y - N P1, N P2: doubles all of them
+
+  DAKVM_INLINE void start(const Table&, const double* x) {
+    constexpr uint32_t wide = 0x41000000;  // 2^17
+    y.take(x, wide);
+  }
+  DAKVM_INLINE void round_to_integer(const Table& t) {
+    shifted = narrow<double>(t.inv_step * Ext{y.hi} + t.shifter);
+  }
+  DAKVM_INLINE void subtract(const Table& t) {
+    const Ext N = Ext{shifted} - t.shifter;
+    n = narrow<double>(N);
+    a = narrow<double>(y.hi - N * t.step1);
+    m = narrow<double>(N * t.step2);
+  }
+
+  DAKVM_INLINE const Row& row(const Table& t, uint32_t turn) const {
+    return t.rows[(16 * y.q + low_word(shifted) + turn) % 64];
+  }
+  DAKVM_INLINE Ext rh() const { return Ext{a} - m; }
+  DAKVM_INLINE Ext sum(const Table& t, uint32_t turn, const Terms& terms) const {
+    const Row& at = row(t, turn);
+    const Ext r = rh();
+    const Ext rlow = ((a - r) - m) - n * Ext{t.step3} + y.lo;
+    const Ext D = rlow * (at.C() - r * at.S) + at.Sl;
+    const Ext first = at.c * r;
+    const Ext A = at.S + first;
+    const Ext rest = (first + (at.S - A)) + (D + (Ext{terms.Ps} + terms.Pc));
+    const Ext second = at.Cd * r;
+    const Ext B = A + second;
+    return B + ((second + (A - B)) + rest);
   }
 };
 
@@ -111,34 +116,48 @@ struct OneResult : Reduction<Table> {
   Terms terms;
 
   DAKVM_INLINE void evaluate(const Table& t) {
-    const Ext rh = this->remainder(t).rh, z = rh * rh;
-    terms.set(this->row(t, turn), sine_rest(t, rh, z), cosine_rest(t, z));
+    settle(&t);
+    const Ext r = this->rh(), z = r * r;
+    terms.set(this->row(t, turn), sine_rest(t, r, z), cosine_rest(t, z));
   }
   DAKVM_INLINE Ext combine(const Table& t) const {
-    const auto [rh, rlow] = this->remainder(t);
-    return terms.sum(this->row(t, turn), rh, rlow);
+    settle(&t);
+    return this->sum(t, turn, terms);
   }
+
+  using Stages = frame::Pipeline<&OneResult::round_to_integer, &OneResult::subtract,
+                                 &OneResult::evaluate, &OneResult::combine>;
 };
 
 struct TwoResults : Reduction<SinTable> {
   Terms of_sine, of_cosine;
+  double sine;
 
   DAKVM_INLINE void evaluate(const SinTable& t) {
-    const Ext rh = remainder(t).rh, z = rh * rh;
-    const Ext sine = sine_rest(t, rh, z), cosine = cosine_rest(t, z);
-    of_sine.set(row(t, 0), sine, cosine);
-    of_cosine.set(row(t, quarter_turn), sine, cosine);
+    settle(&t);
+    const Ext r = rh(), z = r * r;
+    const Ext sine_part = sine_rest(t, r, z), cosine_part = cosine_rest(t, z);
+    of_sine.set(row(t, 0), sine_part, cosine_part);
+    of_cosine.set(row(t, quarter_turn), sine_part, cosine_part);
   }
-  DAKVM_INLINE std::pair<Ext, Ext> combine(const SinTable& t) const {
-    const auto [rh, rlow] = remainder(t);
-    return {of_sine.sum(row(t, 0), rh, rlow), of_cosine.sum(row(t, quarter_turn), rh, rlow)};
+  DAKVM_INLINE void combine_sine(const SinTable& t) {
+    settle(&t);
+    sine = narrow<double>(sum(t, 0, of_sine));
   }
+  DAKVM_INLINE std::pair<Ext, Ext> combine_cosine(const SinTable& t) const {
+    settle(&t);
+    return {sine, sum(t, quarter_turn, of_cosine)};
+  }
+
+  using Stages =
+      frame::Pipeline<&TwoResults::round_to_integer, &TwoResults::subtract, &TwoResults::evaluate,
+                      &TwoResults::combine_sine, &TwoResults::combine_cosine>;
 };
 
 template <class Table, class ElementOf>
 struct Chain {
   using Element = ElementOf;
-  using Stages = frame::Pipeline<&Element::round_to_integer, &Element::evaluate, &Element::combine>;
+  using Stages = typename Element::Stages;
 
   DAKVM_INLINE static bool is_ordinary(const Table&, Bits<double> x) {
     return trig::is_ordinary(x);

@@ -56,16 +56,20 @@ struct Table {
 };
 static_assert(sizeof(Table) == 656 * sizeof(double));
 
-// y less n times pi/32 in two parts, by two sums.
+// y less n pi/32 in two parts, by two sums. The first three fields are exact.
 struct Remainder {
+  double n, difference, second;
   double first, hi, lo;
 
-  DAKVM_INLINE void subtract_two(Ext y, Ext n, Ext step1, Ext step2) {
-    first = narrow<double>((y - n * step1) - n * step2);
+  DAKVM_INLINE void subtract_two(Ext y, Ext steps, Ext step1, Ext step2) {
+    const Ext exact = y - steps * step1, product = steps * step2;
+    n = narrow<double>(steps);
+    difference = narrow<double>(exact);
+    second = narrow<double>(product);
+    first = narrow<double>(exact - product);
   }
-  DAKVM_INLINE void subtract_third(const trig::Argument& y, Ext n, Ext step1, Ext step2,
-                                   Ext step3) {
-    const Ext rest = (((y.hi - n * step1) - first) - n * step2) - n * step3 + y.lo;
+  DAKVM_INLINE void subtract_third(Ext step3, Ext y_lo) {
+    const Ext rest = ((Ext{difference} - first) - second) - n * step3 + y_lo;
     const Sum sum = fast_two_sum(first, rest);
     hi = narrow<double>(sum.head);
     lo = narrow<double>(sum.tail);
@@ -80,7 +84,7 @@ struct Element {
   Remainder r, s;
   double s_t, R, Rm;
   double S1, S2;
-  double L1, L2;
+  double L;
 
   DAKVM_INLINE void start(const Table&, const double* x) {
     constexpr uint32_t wide = 0x40c90000;  // 12800
@@ -90,14 +94,17 @@ struct Element {
     shifted = narrow<double>(Ext{y.hi} * t.inv_step + t.shifter);
   }
   DAKVM_INLINE void subtract_two(const Table& t) {
+    settle(&t);
     j = (16 * y.q + low_word(shifted)) % 32;
     pole_offset = static_cast<int32_t>(j) - 16;
-    s.subtract_two(y.hi, K2(t), t.pole_step1, t.pole_step2);
-    r.subtract_two(y.hi, K(t), t.step1, t.step2);
+    const Ext K = Ext{shifted} - t.shifter;
+    r.subtract_two(y.hi, K, t.step1, t.step2);
+    s.subtract_two(y.hi, K - Ext(pole_offset), t.pole_step1, t.pole_step2);
   }
   DAKVM_INLINE void subtract_third(const Table& t) {
-    s.subtract_third(y, K2(t), t.pole_step1, t.pole_step2, t.pole_step3);
-    r.subtract_third(y, K(t), t.step1, t.step2, t.step3);
+    settle(&t);
+    s.subtract_third(t.pole_step3, y.lo);
+    r.subtract_third(t.step3, y.lo);
   }
   DAKVM_INLINE void shorten(const Table& t) { t.short_mask.apply(s.hi, s_t); }
   DAKVM_INLINE void invert(const Table& t) {
@@ -110,38 +117,20 @@ struct Element {
     settle(&t);
     const Row& c = row(t);
     const Ext x = r.hi;
-    const Ext series =
-        ((((((((((((c.c15 * x + c.c14) * x + c.c13) * x + c.c12) * x + c.c11) * x + c.c10) * x +
-               c.c9) *
-                  x +
-              c.c8) *
-                 x +
-             c.c7) *
-                x +
-            c.c6) *
-               x +
-           c.c5) *
-              x +
-          c.c4) *
-             x +
-         c.c3) *
-            x +
-        c.c2;
-    Ext P = x * x * series;
+    Ext P = (((c.c15 * x + c.c14) * x + c.c13) * x + c.c12) * x + c.c11;
+    P = ((((P * x + c.c10) * x + c.c9) * x + c.c8) * x + c.c7) * x + c.c6;
+    P = x * x * ((((P * x + c.c5) * x + c.c4) * x + c.c3) * x + c.c2);
     P = P + (c.slope1 * x - S1 + c.slope2 * x);
     P = P + (leading(c) - S2 + S1);
     const Ext E = (s.lo + (Ext{s.hi} - s_t)) * R;
     const Ext C = (E + (Ext{s_t} * Rm - t.one)) * (Ext{c.pole_weight} * R);
-    L1 = narrow<double>(((P + C) + Ext{c.slope2} * r.lo) + c.T_lo);
+    L = narrow<double>(((P + C) + Ext{c.slope2} * r.lo) + c.T_lo);
   }
-  DAKVM_INLINE void finish_tail(const Table& t) {
-    L2 = narrow<double>(Ext{r.lo} * row(t).slope1 + L1);
+  DAKVM_INLINE Ext finish(const Table& t) const {
+    return S2 + Ext{round_to_double(Ext{r.lo} * row(t).slope1 + L)};
   }
-  DAKVM_INLINE Ext finish(const Table&) const { return Ext{S2} + L2; }
 
  private:
-  DAKVM_INLINE Ext K(const Table& t) const { return Ext{shifted} - t.shifter; }
-  DAKVM_INLINE Ext K2(const Table& t) const { return K(t) - Ext(pole_offset); }
   DAKVM_INLINE const Row& row(const Table& t) const { return t.rows[j]; }
   DAKVM_INLINE Ext slope(const Row& c) const { return c.slope1 * Ext{r.hi} + c.slope2 * Ext{r.hi}; }
   DAKVM_INLINE Ext leading(const Row& c) const { return Ext{c.T_hi} - Rm; }
@@ -149,10 +138,10 @@ struct Element {
 
 struct Kernel {
   using Element = tan::Element;
-  using Stages = frame::Pipeline<&Element::round_to_integer, &Element::subtract_two,
-                                 &Element::subtract_third, &Element::shorten, &Element::invert,
-                                 &Element::shorten_reciprocal, &Element::add_slope,
-                                 &Element::sum_tail, &Element::finish_tail, &Element::finish>;
+  using Stages =
+      frame::Pipeline<&Element::round_to_integer, &Element::subtract_two, &Element::subtract_third,
+                      &Element::shorten, &Element::invert, &Element::shorten_reciprocal,
+                      &Element::add_slope, &Element::sum_tail, &Element::finish>;
 
   DAKVM_INLINE static bool is_ordinary(const Table&, Bits<double> x) {
     return trig::is_ordinary(x);
