@@ -220,6 +220,7 @@ int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t l
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. sin(-x) = -sin(x),
  *           zeros keep their sign.
  * Accuracy: 64f 0.525 ulp, 99.91 % correctly rounded, of every magnitude and next to multiples of pi.
+ *           32f up to the bound 0.801 ulp, 90 % correctly rounded; above it none of 10^6 misrounded.
  * Source:   P. T. P. Tang, 10th IEEE Symp. Computer Arithmetic (1991) 232-236, for reduction to the
  *           points of a table; M. H. Payne and R. N. Hanek, ACM SIGNUM 18 (1983) 19-24.
  * @{ */
@@ -235,7 +236,7 @@ int32_t daksSin_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. cos(-x) = cos(x).
  * Accuracy: 64f 0.525 ulp, 99.91 % correctly rounded; 0.60 ulp at 0x1.65a1dd290660fp+16 alone, the
- *           number below 2^17 that is nearest to a zero.
+ *           number below 2^17 that is nearest to a zero. 32f as the sine.
  * Source:   as the sine.
  * @{ */
 int32_t daksCos_64f_A50(const double* src, double* dst, int32_t len);
@@ -250,7 +251,8 @@ int32_t daksCos_32f_A24(const float* src, float* dst, int32_t len);
  * the two functions above.
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, both results NaN.
- * Accuracy: 64f as sine and cosine.
+ * Accuracy: 64f as sine and cosine; 32f up to the bound 0.563 ulp, 98.7 % correctly rounded, above it
+ *           none of 10^6 misrounded.
  * Source:   as the sine.
  * @{ */
 int32_t daksSinCos_64f_A50(const double* src, double* dst1, double* dst2, int32_t len);
@@ -268,6 +270,7 @@ int32_t daksSinCos_32f_A24(const float* src, float* dst1, float* dst2, int32_t l
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. No number is a pole:
  *           next to one results are large and finite. Zeros keep their sign.
  * Accuracy: 64f 0.524 ulp, 99.84 % correctly rounded, of every magnitude and next to zeros and poles.
+ *           32f up to the bound 0.936 ulp, 82 % correctly rounded; above it none of 10^6 misrounded.
  * Source:   T. J. Dekker, Numer. Math. 18 (1971) 224-242, for sums in two parts; M. H. Payne and
  *           R. N. Hanek as the sine.
  * @{ */
@@ -278,8 +281,8 @@ int32_t daksTan_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksTan_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** An argument less a multiple of pi/2, as the unevaluated sum of two numbers: hi is the nearest
- * double, lo the rest. */
+/** An argument less a multiple of pi/2, as the unevaluated sum of two numbers: hi has the leading
+ * 53 bits, lo what follows them. */
 typedef struct ReducedArg {
   double hi;
   double lo;
@@ -299,7 +302,7 @@ int32_t gaxreduce_pio2d(uint32_t low, uint32_t high, ReducedArg* reduced);
  * the arrays and a name ("dSin_A11"; of the forms without a suffix the caller's), and writes
  * DAKVM_STATUS_DOMAIN to *status; *status is written in no other case. The forms differ in the name
  * alone.
- * Accuracy: double 0.5165 ulp, tangent 0.539 ulp; float none of 10^7 misrounded.
+ * Accuracy: double 0.5165 ulp, tangent 0.539 ulp; float none of 10^6 misrounded.
  * @{ */
 void gaxdSin_SC(int32_t i, const double* src, double* dst, int32_t* status, const char* name);
 void gaxdSin_SC_A11(int32_t i, const double* src, double* dst, int32_t* status);

@@ -3,7 +3,6 @@
 // Checks every row of limits.inc and exits with status 1 if one does not hold. With --samples the
 // rows are measured with N samples, and then a limit that lies far above what is seen fails too.
 #include <mpfr.h>
-#include <unistd.h>
 
 #include <bit>
 #include <cmath>
@@ -18,6 +17,7 @@
 #include <vector>
 
 #include "near_half_pi.hpp"
+#include "worker_process.hpp"
 
 namespace {
 
@@ -121,33 +121,6 @@ void add_near_half_pi(const Limit& limit, std::vector<T>& numbers) {
     for (const T at : {x, -x})
       if (at >= static_cast<T>(limit.low) && at <= static_cast<T>(limit.high))
         numbers.push_back(at);
-}
-
-template <class T>
-std::vector<T> evaluate(const std::string& worker, std::string_view function,
-                        const std::vector<T>& arguments, size_t outputs) {
-  char path[] = "/tmp/dakvm-oracle-XXXXXX";
-  const int file = mkstemp(path);
-  std::vector<T> results(arguments.size() * outputs);
-  FILE* in = file < 0 ? nullptr : fdopen(file, "w");
-  if (in == nullptr ||
-      std::fwrite(arguments.data(), sizeof(T), arguments.size(), in) != arguments.size() ||
-      std::fclose(in) != 0) {
-    std::perror(path);
-    std::exit(2);
-  }
-  FILE* out = popen(("'" + worker + "' " + std::string(function) + " < " + path).c_str(), "r");
-  const size_t got =
-      out == nullptr ? 0 : std::fread(results.data(), sizeof(T), results.size(), out);
-  const int status = out == nullptr ? -1 : pclose(out);
-  unlink(path);
-  if (status != 0) {
-    std::fprintf(stderr, "%s failed on %.*s\n", worker.c_str(), static_cast<int>(function.size()),
-                 function.data());
-    std::exit(2);
-  }
-  results.resize(got);
-  return results;
 }
 
 struct Measured {

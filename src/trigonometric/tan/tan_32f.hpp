@@ -6,7 +6,7 @@
 //            off by 2^-69.
 // Error      P/Q has 25 bits near pi/4 and 33 near 0; with the store 0.936 ulp.
 // Special    Above 128000, infinities, NaN: the scalar kernel; zeros as well, whose sign P would
-//            lose. Subnormal numbers: P/Q alone, since Q/P overflows.
+//            lose, and subnormal numbers, where Q/P overflows.
 // Source     J. F. Hart et al., Computer Approximations (1968), for quotients of this kind. Table:
 //            tools/gentables/trig_32f.cpp.
 #pragma once
@@ -41,16 +41,10 @@ struct Element32 : trig::Shifted {
   DAKVM_INLINE Quotients finish(const Table32& t) const {
     const Ext m = n(t.shifter);
     const Ext r = x + m * t.minus_half_pi + m * t.minus_half_pi_lo;
-    const auto [P, Q] = parts(t, r);
-    return {{narrow<float>(P / Q), narrow<float>(-Q / P)}, N()};
-  }
-
-  struct Parts {
-    Ext P, Q;
-  };
-  DAKVM_INLINE static Parts parts(const Table32& t, Ext r) {
     const Ext z = r * r;
-    return {r + r * z * t.p3, z * (t.q4 * z + t.q2) + t.one};
+    const Ext P = r + r * z * t.p3;
+    const Ext Q = z * (t.q4 * z + t.q2) + t.one;
+    return {{narrow<float>(P / Q), narrow<float>(-Q / P)}, N()};
   }
 };
 
@@ -63,12 +57,8 @@ struct Kernel32 {
     return x.magnitude() - least <= bound - least;
   }
 
-  [[gnu::cold, gnu::noinline]] static Status apply(const Table32& t, const float* src, float* dst) {
-    const auto bits = Bits<float>::read(src);
-    if (bits.is_zero() || bits.exponent() != 0) return scalar::_dTan(src, dst);
-    const auto [P, Q] = Element::parts(t, *src);
-    *dst = narrow<float>(P / Q);
-    return Status::ok;
+  DAKVM_INLINE static Status apply(const Table32&, const float* src, float* dst) {
+    return scalar::_dTan(src, dst);
   }
 };
 
