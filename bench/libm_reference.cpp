@@ -42,6 +42,10 @@ constexpr auto Acos = DAKVM_LIBM(acos);
 constexpr auto Atanh = DAKVM_LIBM(atanh);
 constexpr auto Asinh = DAKVM_LIBM(asinh);
 constexpr auto Acosh = DAKVM_LIBM(acosh);
+constexpr auto Sin = DAKVM_LIBM(sin);
+constexpr auto Cos = DAKVM_LIBM(cos);
+constexpr auto SinCos = DAKVM_LIBM(sincos);
+constexpr auto Tan = DAKVM_LIBM(tan);
 
 template <class F, registry::Form form, class T>
 void loop(const registry::Operands<T>& o, int32_t len) {

@@ -98,6 +98,15 @@ struct Arrays {
     dst[1][i] = x87::narrow<T>(results.second);
   }
 
+  // Results that store themselves: bits of theirs are settled behind the rounding.
+  template <class Results>
+  DAKVM_INLINE void store(int32_t i, const Results& results) const {
+    if constexpr (destinations == 1)
+      results.store_to(dst[0] + i);
+    else
+      results.store_to(dst[0] + i, dst[1] + i);
+  }
+
   // A destination that starts less than a block behind a source receives results where elements of
   // the same block are still to be read. One that starts at the source or before it does not.
   DAKVM_INLINE int32_t block_length(int32_t longest) const {

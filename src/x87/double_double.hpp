@@ -25,6 +25,23 @@ DAKVM_INLINE Sum two_sum(Ext a, Ext b) {
   return {head, (a - (head - b_in_head)) + (b - b_in_head)};
 }
 
+// A sum of many terms in a register, and beside it what its roundings lost.
+struct Accumulator {
+  Ext head, tail;
+
+  DAKVM_INLINE void add(Ext term) {
+    const Ext sum = head + term;
+    const Ext term_in_sum = sum - head;
+    tail += (head - (sum - term_in_sum)) + (term - term_in_sum);
+    head = sum;
+  }
+  DAKVM_INLINE void fold_tail() {
+    const Ext lost = tail;
+    tail = 0;
+    add(lost);
+  }
+};
+
 // The head of few bits that Dekker's split takes from x. With a splitter 2^k + 1, or 2^k, it has
 // 53 - k bits, so that products of heads are exact; the rest x - head is exact as well. Its two
 // roundings are fields of an element, each stored in a stage of its own.

@@ -3,7 +3,6 @@
 // Checks every row of limits.inc and exits with status 1 if one does not hold. With --samples the
 // rows are measured with N samples, and then a limit that lies far above what is seen fails too.
 #include <mpfr.h>
-#include <unistd.h>
 
 #include <bit>
 #include <cmath>
@@ -16,6 +15,9 @@
 #include <string_view>
 #include <type_traits>
 #include <vector>
+
+#include "near_half_pi.hpp"
+#include "worker_process.hpp"
 
 namespace {
 
@@ -37,6 +39,8 @@ struct Reference {
   std::string_view family;
   OneInput one;
   TwoInputs two;
+  OneInput second_output = nullptr;
+  bool periodic = false;  // measured next to multiples of pi/2 too
 };
 
 int reciprocal(mpfr_ptr result, mpfr_srcptr x, mpfr_rnd_t rounding) {
@@ -74,6 +78,10 @@ constexpr Reference references[] = {
     {"Atanh", mpfr_atanh, nullptr},
     {"Asinh", mpfr_asinh, nullptr},
     {"Acosh", mpfr_acosh, nullptr},
+    {"Sin", mpfr_sin, nullptr, nullptr, true},
+    {"Cos", mpfr_cos, nullptr, nullptr, true},
+    {"SinCos", mpfr_sin, nullptr, mpfr_cos, true},
+    {"Tan", mpfr_tan, nullptr, nullptr, true},
 };
 
 // daksExp_32f_A24, gaxssqrt_scalar
@@ -127,31 +135,13 @@ std::vector<T> sample(const Limit& limit, int samples, uint64_t seed) {
   return numbers;
 }
 
+// The numbers of the interval that are nearest to multiples of pi/2, some for each binade.
 template <class T>
-std::vector<T> evaluate(const std::string& worker, std::string_view function,
-                        const std::vector<T>& arguments) {
-  char path[] = "/tmp/dakvm-oracle-XXXXXX";
-  const int file = mkstemp(path);
-  std::vector<T> results(arguments.size());
-  FILE* in = file < 0 ? nullptr : fdopen(file, "w");
-  if (in == nullptr ||
-      std::fwrite(arguments.data(), sizeof(T), arguments.size(), in) != arguments.size() ||
-      std::fclose(in) != 0) {
-    std::perror(path);
-    std::exit(2);
-  }
-  FILE* out = popen(("'" + worker + "' " + std::string(function) + " < " + path).c_str(), "r");
-  const size_t got =
-      out == nullptr ? 0 : std::fread(results.data(), sizeof(T), results.size(), out);
-  const int status = out == nullptr ? -1 : pclose(out);
-  unlink(path);
-  if (status != 0) {
-    std::fprintf(stderr, "%s failed on %.*s\n", worker.c_str(), static_cast<int>(function.size()),
-                 function.data());
-    std::exit(2);
-  }
-  results.resize(got);
-  return results;
+void add_near_half_pi(const Limit& limit, std::vector<T>& numbers) {
+  for (const T& x : near_half_pi::numbers<T>())
+    for (const T at : {x, -x})
+      if (at >= static_cast<T>(limit.low) && at <= static_cast<T>(limit.high))
+        numbers.push_back(at);
 }
 
 struct Measured {
@@ -176,37 +166,41 @@ template <class T>
 Measured measure(const std::string& worker, const Limit& limit, int samples) {
   const Reference& reference = reference_of(limit.function);
   auto arguments = sample<T>(limit, samples, 1);
+  if (reference.periodic) add_near_half_pi(limit, arguments);
   if (reference.two != nullptr) {
     const auto second = sample<T>(limit, samples, 2);
     arguments.insert(arguments.end(), second.begin(), second.end());
   }
-  const auto results = evaluate(worker, limit.function, arguments);
+  const size_t outputs = reference.second_output != nullptr ? 2 : 1;
+  const auto results = evaluate(worker, limit.function, arguments, outputs);
   Measured measured;
-  if (results.size() < arguments.size() / (reference.two != nullptr ? 2 : 1)) {
+  const size_t count = arguments.size() / (reference.two != nullptr ? 2 : 1);
+  const size_t expected = count * outputs;
+  if (results.size() < expected) {
     std::fprintf(stderr, "%.*s: results are missing\n", static_cast<int>(limit.function.size()),
                  limit.function.data());
     std::exit(2);
   }
-  const size_t count = arguments.size() / (reference.two != nullptr ? 2 : 1);
   mpfr_t x, y, exact, error;
   mpfr_inits2(53, x, y, nullptr);
   mpfr_inits2(160, exact, error, nullptr);
-  for (size_t i = 0; i < count; ++i) {
+  for (size_t place = 0; place < expected; ++place) {
+    const size_t i = place % count;
     mpfr_set_d(x, arguments[i], MPFR_RNDN);
     if (reference.two != nullptr) {
       mpfr_set_d(y, arguments[count + i], MPFR_RNDN);
       reference.two(exact, x, y, MPFR_RNDN);
     } else {
-      reference.one(exact, x, MPFR_RNDN);
+      (place < count ? reference.one : reference.second_output)(exact, x, MPFR_RNDN);
     }
     const T nearest = sizeof(T) == 8 ? static_cast<T>(mpfr_get_d(exact, MPFR_RNDN))
                                      : static_cast<T>(mpfr_get_flt(exact, MPFR_RNDN));
     ++measured.count;
-    if (std::bit_cast<Word<T>>(results[i]) == std::bit_cast<Word<T>>(nearest)) {
+    if (std::bit_cast<Word<T>>(results[place]) == std::bit_cast<Word<T>>(nearest)) {
       ++measured.correctly_rounded;
       if (!std::isfinite(nearest)) continue;
     }
-    mpfr_sub_d(error, exact, results[i], MPFR_RNDN);
+    mpfr_sub_d(error, exact, results[place], MPFR_RNDN);
     mpfr_mul_2si(error, error, -ulp_exponent<T>(exact), MPFR_RNDN);
     const double ulp = std::fabs(mpfr_get_d(error, MPFR_RNDN));
     if (!(ulp <= measured.worst)) {

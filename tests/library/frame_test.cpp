@@ -5,6 +5,7 @@
 #include <array>
 
 #include "arrays.hpp"
+#include "notifications.hpp"
 
 namespace dakvm::test {
 namespace {
@@ -13,33 +14,6 @@ using registry::Form;
 using registry::Function;
 using registry::Operands;
 using registry::Type;
-
-struct Notification {
-  int32_t code, index;
-  const void* arrays[4];
-  uint64_t stored;  // the element's result when it was notified
-  bool next_is_stored;
-};
-std::vector<Notification> notifications;
-int32_t notified_length = 0;
-constexpr unsigned char untouched = 0xa5;
-
-template <class T>
-void record(int32_t code, int32_t index, const T* src1, const T* src2, T* dst1, T* dst2,
-            const char* name) {
-  Notification n{code, index, {src1, src2, dst1, dst2}, 0, false};
-  if (notified_length > 0) {
-    EXPECT_STREQ(name, "");
-    std::memcpy(&n.stored, dst1 + index, sizeof(T));
-    if (index + 1 < notified_length) {
-      Word<T> next, canary;
-      std::memcpy(&next, dst1 + index + 1, sizeof next);
-      std::memset(&canary, untouched, sizeof canary);
-      n.next_is_stored = next != canary;
-    }
-  }
-  notifications.push_back(n);
-}
 
 // A function with the arrays that a call of it takes, `len` elements each.
 template <class T>
@@ -121,6 +95,14 @@ TEST(Frame, ChecksLengthThenPointersAndTouchesNothing) {
   });
 }
 
+// The trigonometric functions of floats leave infinities to the scalar entries.
+std::string notified_name(const Function& f) {
+  const bool by_entry =
+      f.type == Type::f32 &&
+      std::string_view("Sin Cos SinCos Tan").find(f.family.name) != std::string::npos;
+  return by_entry ? "s" + std::string(f.family.name) + "_HA" : "";
+}
+
 // Results, status, flags and notifications of a call are those of its elements one by one.
 TEST(Frame, IsElementByElementInIndexOrder) {
   for_each_function([]<class T>(const Function& f, T) {
@@ -152,6 +134,7 @@ TEST(Frame, IsElementByElementInIndexOrder) {
           ASSERT_LT(notified, seen.size());
           const auto& n = seen[notified++];
           EXPECT_EQ(n.code, single.status);
+          EXPECT_EQ(n.name, notified_name(f));
           EXPECT_EQ(n.index, i);
           EXPECT_EQ(n.arrays[0], o.src1);
           EXPECT_EQ(n.arrays[1], f.family.sources() == 2 ? o.src2 : o.src1);
@@ -267,22 +250,5 @@ TEST(Frame, KeepsTheCallersModes) {
 }
 
 }  // namespace
-
-extern "C" {
-void __real_gaxdError(int32_t, int32_t, const double*, const double*, double*, double*,
-                      const char*);
-void __real_gaxsError(int32_t, int32_t, const float*, const float*, float*, float*, const char*);
-
-void __wrap_gaxdError(int32_t code, int32_t index, const double* src1, const double* src2,
-                      double* dst1, double* dst2, const char* name) {
-  record(code, index, src1, src2, dst1, dst2, name);
-  __real_gaxdError(code, index, src1, src2, dst1, dst2, name);
-}
-void __wrap_gaxsError(int32_t code, int32_t index, const float* src1, const float* src2,
-                      float* dst1, float* dst2, const char* name) {
-  record(code, index, src1, src2, dst1, dst2, name);
-  __real_gaxsError(code, index, src1, src2, dst1, dst2, name);
-}
-}
 
 }  // namespace dakvm::test

@@ -1,0 +1,15 @@
+// daksCos_32f_A24: cosine over an array, single precision, high-accuracy grade.
+#include "trigonometric/sincos/sincos_32f.hpp"
+
+namespace {
+// The name of the scalar entry that infinities belong to.
+constexpr char _GAX_THISFUNC_NAME[] = "sCos_HA";
+constexpr dakvm::sincos::CosTable32 _gaxsCosHATab = {
+#include "trigonometric/sincos/cos_32f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksCos_32f_A24(const float* src, float* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::sincos::CosKernel32>(src, dst, len, _gaxsCosHATab,
+                                                       _GAX_THISFUNC_NAME);
+}

@@ -1,0 +1,15 @@
+// daksSin_32f_A24: sine over an array, single precision, high-accuracy grade.
+#include "trigonometric/sincos/sincos_32f.hpp"
+
+namespace {
+// The name of the scalar entry that infinities belong to.
+constexpr char _GAX_THISFUNC_NAME[] = "sSin_HA";
+constexpr dakvm::sincos::SinTable32 _gaxsSinHATab = {
+#include "trigonometric/sincos/sin_32f.inc"
+};
+}  // namespace
+
+DAKVM_EXPORT int32_t daksSin_32f_A24(const float* src, float* dst, int32_t len) {
+  return dakvm::frame::map<dakvm::sincos::SinKernel32>(src, dst, len, _gaxsSinHATab,
+                                                       _GAX_THISFUNC_NAME);
+}
