@@ -229,7 +229,7 @@ DAKVM_INLINE void run_forked_block(Chains<Chain...>, const Context& context,
   int32_t way = 0;
   ((run_chain<Chain>(context, arrays, places[way], counts[way], first, results), ++way), ...);
   complete<Kernel>(context, arrays, first, length, places[way], counts[way], report,
-                   [&](int32_t i) { arrays.store(i, results[i - first]); });
+                   [&](int32_t i) { arrays.store(i, Ext{results[i - first]}); });
 }
 
 template <Forked Kernel, class Context, class Arrays, class Report>

@@ -58,6 +58,8 @@ bool run(double (*function)(T, T)) {
     numbers[i] = static_cast<T>(function(numbers[i], numbers[len + i]));
   numbers.resize(len);
   return write_all(numbers);
+}
+
 // The scalar entries, applied to every index in turn.
 template <class T>
 bool run(void (*entry)(int32_t, const T*, T*, int32_t*)) {

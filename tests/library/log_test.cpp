@@ -1,5 +1,4 @@
 // Logarithms: special arguments, both sides of every bound, exact results.
-#include "arrays.hpp"
 #include "properties.hpp"
 
 namespace dakvm::test {
@@ -60,7 +59,6 @@ TEST(Log, KnownResults) {
 }
 
 // Around one, at sqrt(2), at the ends of a row, at the least normal number.
-// Where the path changes: around one, at sqrt(2), at the ends of a row, at the least normal number.
 TEST(Log, PathsMeet) {
   for (const auto& function : registry::functions) {
     if (function.family.name != "Ln" && function.family.name != "Log10") continue;
