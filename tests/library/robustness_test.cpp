@@ -153,7 +153,7 @@ TEST(Robustness, ModesKeepResultsNear) {
           const T got = *numbers<T>(&job.results()[i]),
                   expected = *numbers<T>(&nearest.results()[i]);
           ASSERT_LE(std::abs(static_cast<double>(got) - static_cast<double>(expected)),
-                    0x1p-11 * std::abs(static_cast<double>(expected)) + 0x1p-11)
+                    0x1p-9 * std::abs(static_cast<double>(expected)) + 0x1p-9)
               << precision << " " << rounding << " element " << i;
         }
       }
