@@ -133,18 +133,54 @@ std::vector<const Function*> siblings(const Function& function) {
   return found;
 }
 
-std::vector<Limit> limits_of(const Function& function) {
-  const auto named = [](const std::string& name) {
-    std::vector<Limit> rows;
-    for (const Limit& limit : limits)
-      if (limit.function == name) rows.push_back(limit);
-    return rows;
-  };
-  auto rows = named(function.name);
-  if (!rows.empty()) return rows;
-  for (const Function* sibling : siblings(function))
-    if (sibling->leads()) return named(sibling->name);
+namespace {
+
+std::vector<Limit> rows_named(const std::string& name) {
+  std::vector<Limit> rows;
+  for (const Limit& limit : limits)
+    if (limit.function == name) rows.push_back(limit);
   return rows;
+}
+
+// Whose rows are the function's.
+const Function& owner_of_limits(const Function& function) {
+  if (rows_named(function.name).empty())
+    for (const Function* sibling : siblings(function))
+      if (sibling->leads()) return *sibling;
+  return function;
+}
+
+}  // namespace
+
+std::vector<Limit> limits_of(const Function& function) {
+  return rows_named(owner_of_limits(function).name);
+}
+
+std::vector<std::vector<const Function*>> groups(const std::vector<const Function*>& functions) {
+  std::vector<std::vector<const Function*>> found;
+  for (const Function* f : functions) {
+    const auto group = std::find_if(found.begin(), found.end(), [&](const auto& g) {
+      return owner_of_limits(*g[0]).name == owner_of_limits(*f).name;
+    });
+    if (group == found.end())
+      found.push_back({f});
+    else
+      group->push_back(f);
+  }
+  return found;
+}
+
+std::optional<double> bound_of(const Function& function) {
+  std::optional<double> bound;
+  for (const Limit& row : limits_of(function)) bound = std::max(bound.value_or(0), row.ulp);
+  return bound;
+}
+
+std::optional<double> bound_of(const Function& function, double low, double high) {
+  std::optional<double> inside;
+  for (const Limit& row : limits_of(function))
+    if (row.low <= low && high <= row.high) inside = std::min(inside.value_or(row.ulp), row.ulp);
+  return inside ? inside : bound_of(function);
 }
 
 }  // namespace dakvm::accuracy

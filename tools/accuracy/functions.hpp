@@ -4,6 +4,7 @@
 #include <mpfr.h>
 
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -74,7 +75,7 @@ std::vector<const Function*> find(const std::string& name, const std::string& ty
 // The other functions of its family and type.
 std::vector<const Function*> siblings(const Function& function);
 
-// A row of limits.inc.
+// A row of limits.inc. One of no samples says what holds for all arguments, hard ones included.
 struct Limit {
   std::string_view function;
   double low, high;
@@ -84,5 +85,13 @@ struct Limit {
 
 // The rows of a function; a grade that has none of its own has those of the best grade.
 std::vector<Limit> limits_of(const Function& function);
+
+// The functions in groups that have the same rows, the best grade first.
+std::vector<std::vector<const Function*>> groups(const std::vector<const Function*>& functions);
+
+// The bound that holds for arguments of [low, high]: the least of the rows around it, or, where no
+// row covers it, the largest of all rows. Without an interval the largest.
+std::optional<double> bound_of(const Function& function);
+std::optional<double> bound_of(const Function& function, double low, double high);
 
 }  // namespace dakvm::accuracy

@@ -7,7 +7,10 @@
 #include <fstream>
 #include <thread>
 
+#include "properties.hpp"
+#include "published.hpp"
 #include "report.hpp"
+#include "search.hpp"
 
 namespace dakvm::accuracy {
 namespace {
@@ -20,7 +23,9 @@ struct Arguments {
   std::vector<std::string> rounding = {"n"}, precision = {"64"};
   uint64_t samples = 1000000, seed = 1;
   uint32_t every = 1;
-  bool hard = false, exhaustive = false;
+  bool hard = false, exhaustive = false, properties = false;
+  uint64_t search_seconds = 0;
+  std::string keep;
   Setting setting;
 };
 
@@ -31,23 +36,6 @@ Modes modes_of(const std::string& rounding, const std::string& precision) {
                                                              : Precision::bits64};
 }
 
-std::string interval_text(double low, double high) {
-  char text[80];
-  std::snprintf(text, sizeof text, "on [%.9g, %.9g]", low, high);
-  return text;
-}
-
-// The bound that holds for arguments of [low, high]: the least of the rows around it, or, where no
-// row covers it, the largest of all rows.
-std::optional<double> bound_on(const Function& function, double low, double high) {
-  std::optional<double> inside, anywhere;
-  for (const Limit& row : limits_of(function)) {
-    anywhere = std::max(anywhere.value_or(0), row.ulp);
-    if (row.low <= low && high <= row.high) inside = std::min(inside.value_or(row.ulp), row.ulp);
-  }
-  return inside ? inside : anywhere;
-}
-
 class Session {
  public:
   explicit Session(const Arguments& a) : a_(a) {}
@@ -55,6 +43,15 @@ class Session {
   void run() {
     const auto functions = find(a_.function, a_.type, a_.grade);
     if (a_.exhaustive) return exhaustive(functions);
+    if (a_.properties) {
+      for (const Function* f : functions) properties(*f);
+      return;
+    }
+    if (a_.search_seconds > 0) {
+      for (const Function* f : functions)
+        if (!f->is_single() && f->form != Form::scalar_exponent) look_for_worst(*f);
+      return;
+    }
     for (const std::string& precision : a_.precision)
       for (const std::string& rounding : a_.rounding)
         for (const Function* f : functions) {
@@ -69,7 +66,9 @@ class Session {
   int finish() const {
     if (a_.format == "csv") std::fputs(as_csv(reports_).c_str(), stdout);
     if (a_.format == "json") std::fputs(as_json(reports_).c_str(), stdout);
-    return std::all_of(reports_.begin(), reports_.end(), [](const Report& r) { return r.holds(); })
+    return std::all_of(reports_.begin(), reports_.end(),
+                       [](const Report& r) { return r.holds(); }) &&
+                   properties_hold_
                ? pass
                : fail;
   }
@@ -84,17 +83,18 @@ class Session {
     } else if (!a_.range.empty()) {
       sampled<T>(f, a_.range[0], a_.range[1]);
     } else {
-      for (const Limit& row : limits_of(f)) sampled<T>(f, row.low, row.high, row.ulp);
+      for (const Limit& row : limits_of(f))
+        if (row.samples > 0) sampled<T>(f, row.low, row.high, row.ulp);
     }
   }
 
   template <class T>
   void sampled(const Function& f, double low, double high, std::optional<double> bound = {}) {
-    if (!bound) bound = bound_on(f, low, high);
+    if (!bound) bound = bound_of(f, low, high);
     Report r =
         report(measure({&f}, sample<T>(f, low, high, a_.samples, a_.seed), modes_, a_.setting)[0],
-               interval_text(low, high) + ", " + std::to_string(a_.samples) + " samples, seed " +
-                   std::to_string(a_.seed),
+               "on " + interval_text(low, high) + ", " + std::to_string(a_.samples) +
+                   " samples, seed " + std::to_string(a_.seed),
                "sampled", bound);
     r.low = low;
     r.high = high;
@@ -107,9 +107,7 @@ class Session {
   void add(const Function& f, const Inputs<T>& inputs, const std::string& what,
            const std::string& method) {
     if (inputs.size() == 0) throw std::runtime_error(f.name + " has no hard inputs");
-    constexpr double none = std::numeric_limits<double>::infinity();
-    add(report(measure({&f}, inputs, modes_, a_.setting)[0], what, method,
-               bound_on(f, -none, none)));
+    add(report(measure({&f}, inputs, modes_, a_.setting)[0], what, method, bound_of(f)));
   }
 
   void exhaustive(std::vector<const Function*> functions) {
@@ -123,8 +121,30 @@ class Session {
       if (!leader.is_single() && !others.empty()) continue;  // of a family the 32f functions
       for (const auto& m : measure_exhaustively(group, a_.setting, a_.every))
         add(report(m, a_.every == 1 ? "over all floats" : "over a part of the floats", "exhaustive",
-                   bound_on(*m.function, 0, 0)));
+                   bound_of(*m.function)));
     }
+  }
+
+  void properties(const Function& f) {
+    std::printf("%s\n", f.name.c_str());
+    for (const Property& p : check_properties(f, a_.setting)) {
+      std::printf("  %s: %s", p.violations == 0 ? "PASS" : "FAIL", p.name.c_str());
+      if (p.violations != 0)
+        std::printf(", not at %llu of", static_cast<unsigned long long>(p.violations));
+      std::printf(" (%llu checked)", static_cast<unsigned long long>(p.checked));
+      if (p.violations != 0) std::printf(", first at %s", p.first.c_str());
+      std::printf("\n");
+      properties_hold_ = properties_hold_ && p.violations == 0;
+    }
+  }
+
+  void look_for_worst(const Function& f) {
+    const Witness worst = search(f, a_.search_seconds, a_.seed, a_.setting);
+    Inputs<double> one;
+    for (int s = 0; s < 2; ++s) one.in[s].push_back(worst.in[s]);
+    add(f, one, "at the worst input that the search found", "search");
+    if (!a_.keep.empty() && keep(a_.keep, f, worst))
+      std::fprintf(stderr, "%s: kept in %s\n", f.name.c_str(), a_.keep.c_str());
   }
 
   Report report(const Measurement& m, const std::string& what, const std::string& method,
@@ -148,6 +168,7 @@ class Session {
   const Arguments& a_;
   Modes modes_;
   std::vector<Report> reports_;
+  bool properties_hold_ = true;
 };
 
 void list() {
@@ -195,6 +216,15 @@ int run(int argc, char** argv) {
           ->excludes(seed)
           ->excludes(modes_rounding)
           ->excludes(modes_precision);
+  app.add_flag("--properties", a.properties,
+               "Check order, symmetry, range, and independence of neighbours")
+      ->excludes(exhaustive);
+  auto* searching = app.add_option("--search", a.search_seconds,
+                                   "Search this many seconds for the worst input of 64f functions")
+                        ->excludes(exhaustive);
+  app.add_option("--keep", a.keep, "Keep what the search finds in this file (worst.inc)")
+      ->needs(searching)
+      ->check(CLI::ExistingFile);
   app.add_option("--every", a.every, "Of an exhaustive run's 1024 parts every N-th")
       ->check(CLI::Range(1, 1024))
       ->needs(exhaustive);
@@ -211,7 +241,35 @@ int run(int argc, char** argv) {
       ->check(CLI::IsMember({"text", "csv", "json"}))
       ->capture_default_str();
   auto* listing = app.add_subcommand("list", "List what can be measured");
+
+  Publication publication;
+  std::vector<std::string> names;
+  const auto records = [&](CLI::App* command) {
+    command->add_option("--records", publication.path, "The records")->capture_default_str();
+    return command;
+  };
+  auto* publishing = records(app.add_subcommand(
+      "publish", "Measure functions and write their records (docs/accuracy.json)"));
+  publishing->add_option("FUNCS", names, "Families or functions; without any, all");
+  publishing->add_flag("--quick", publication.quick, "Sample the 32f functions too");
+  auto* verifying = records(app.add_subcommand(
+      "verify", "Measure a slice of every record again; exit code 1 if one fails"));
+  verifying->add_option("FUNCS", names, "Families or functions; without any, all");
+  uint64_t slice = 20000;
+  verifying->add_option("--samples", slice, "Numbers to sample in each interval")
+      ->capture_default_str();
+  std::string family;
+  auto* plotting = app.add_subcommand("plot", "Print the errors over the argument, for gnuplot");
+  plotting->add_option("FAMILY", family, "A family")->required();
+  std::string markdown = "docs/accuracy.md", header = "include/dakvmpx.h";
+  bool check = false;
+  auto* documenting = records(app.add_subcommand(
+      "document", "Write docs/accuracy.md and the header's Accuracy paragraphs from the records"));
+  documenting->add_option("--markdown", markdown, "The page")->capture_default_str();
+  documenting->add_option("--header", header, "The header")->capture_default_str();
+  documenting->add_flag("--check", check, "Write nothing; exit code 1 if something would change");
   app.require_subcommand(0, 1);
+  app.fallthrough();
   app.footer(
       "Without --range, --inputs, --hard or --exhaustive the intervals of the published figures "
       "are\n"
@@ -229,6 +287,21 @@ int run(int argc, char** argv) {
   if (listing->parsed()) {
     list();
     return pass;
+  }
+  if (plotting->parsed()) {
+    std::fputs(plot_table(family, a.setting).c_str(), stdout);
+    return pass;
+  }
+  if (documenting->parsed()) return document(publication, markdown, header, check) ? pass : fail;
+  if (publishing->parsed() || verifying->parsed()) {
+    std::vector<const Function*> chosen;
+    for (const std::string& name : names)
+      for (const Function* f : find(name, "", "")) chosen.push_back(f);
+    if (names.empty())
+      for (const Function& f : functions()) chosen.push_back(&f);
+    if (publishing->parsed()) return publish(chosen, publication, a.setting) ? pass : fail;
+    publication.samples = slice;
+    return verify(chosen, publication, a.setting) ? pass : fail;
   }
   if (a.function.empty()) {
     std::fputs(app.help().c_str(), stderr);

@@ -34,6 +34,8 @@ bool Report::holds() const {
          t.out_of_range == 0;
 }
 
+std::string interval_text(double low, double high) { return text_of("[%.9g, %.9g]", low, high); }
+
 char rounding_letter(Rounding rounding) { return "nduz"[static_cast<int>(rounding)]; }
 
 int precision_bits(Precision precision) {

@@ -33,6 +33,9 @@ std::string argument_text(const Function& function, const Witness& witness);
 std::string argument_words(const Function& function, const Witness& witness);
 std::string percent_text(const Tally& tally);
 
+// "[-708, 709.782713]"
+std::string interval_text(double low, double high);
+
 char rounding_letter(Rounding rounding);
 int precision_bits(Precision precision);
 

@@ -28,18 +28,11 @@ constexpr WorstInput worst[] = {
 constexpr uint64_t chunk = 1 << 20, next_seed = 0x9e3779b97f4a7c15;
 
 template <class T>
-std::vector<Word<T>> sample(double from, double to, uint64_t samples, uint64_t seed) {
+std::vector<Word<T>> sample(double from, double to, uint64_t samples, uint64_t seed, bool ends) {
   const T low = static_cast<T>(from), high = static_cast<T>(to);
   std::uniform_int_distribution<int64_t> places(place(low), place(high));
   std::uniform_real_distribution<T> values(low / 2, high / 2);
   std::vector<Word<T>> words;
-  const auto ends = [&] {
-    for (const T end : {low, high})
-      for (int64_t step = -2000; step <= 2000; ++step) {
-        const int64_t at = place(end) + step;
-        if (at >= place(low) && at <= place(high)) words.push_back(word_of(number_at<T>(at)));
-      }
-  };
   for (uint64_t done = 0; done < samples; done += chunk, seed += next_seed) {
     std::mt19937_64 random(seed);
     for (uint64_t i = 0; i < std::min(samples - done, chunk) / 2; ++i) {
@@ -47,7 +40,11 @@ std::vector<Word<T>> sample(double from, double to, uint64_t samples, uint64_t s
       words.push_back(word_of(2 * values(random)));
     }
   }
-  ends();
+  for (const T end : {low, high})
+    for (int64_t step = -2000; ends && step <= 2000; ++step) {
+      const int64_t at = place(end) + step;
+      if (at >= place(low) && at <= place(high)) words.push_back(word_of(number_at<T>(at)));
+    }
   return words;
 }
 
@@ -69,11 +66,11 @@ void append(Inputs<T>& inputs, double x, double y) {
 }  // namespace
 
 template <class T>
-Inputs<T> sample(const Function& function, double low, double high, uint64_t samples,
-                 uint64_t seed) {
+Inputs<T> sample(const Function& function, double low, double high, uint64_t samples, uint64_t seed,
+                 bool ends) {
   Inputs<T> inputs;
   for (int s = 0; s < function.sources(); ++s)
-    inputs.in[s] = sample<T>(low, high, samples, 2 * seed - 1 + static_cast<uint64_t>(s));
+    inputs.in[s] = sample<T>(low, high, samples, 2 * seed - 1 + static_cast<uint64_t>(s), ends);
   return inputs;
 }
 
@@ -103,27 +100,20 @@ template <class T>
 Inputs<T> hard_inputs(const Function& function) {
   Inputs<T> inputs;
   const std::string family = function.family == "Powx" ? "Pow" : function.family;
+  const char* const type = sizeof(T) == 8 ? "64f" : "32f";
   for (const HardInput& row : hard)
-    if (row.family == family && row.type == (sizeof(T) == 8 ? "64f" : "32f"))
-      append(inputs, row.x, row.y);
-  return inputs;
-}
-
-template <class T>
-Inputs<T> worst_inputs(const Function& function) {
-  Inputs<T> inputs;
+    if (row.family == family && row.type == type) append(inputs, row.x, row.y);
+  const std::string names = "daks" + family + "_" + type + "_";
   for (const WorstInput& row : worst)
-    if (row.function == function.name) append(inputs, row.x, row.y);
+    if (row.function.starts_with(names)) append(inputs, row.x, row.y);
   return inputs;
 }
 
-template Inputs<double> sample(const Function&, double, double, uint64_t, uint64_t);
-template Inputs<float> sample(const Function&, double, double, uint64_t, uint64_t);
+template Inputs<double> sample(const Function&, double, double, uint64_t, uint64_t, bool);
+template Inputs<float> sample(const Function&, double, double, uint64_t, uint64_t, bool);
 template Inputs<double> read_inputs(const Function&, const std::string&);
 template Inputs<float> read_inputs(const Function&, const std::string&);
 template Inputs<double> hard_inputs(const Function&);
 template Inputs<float> hard_inputs(const Function&);
-template Inputs<double> worst_inputs(const Function&);
-template Inputs<float> worst_inputs(const Function&);
 
 }  // namespace dakvm::accuracy
