@@ -52,4 +52,6 @@ install(
   COMPONENT development
   OPTIONAL
   FILES_MATCHING
-  PATTERN "*.md")
+  PATTERN "*.md"
+  PATTERN "*.json"
+  PATTERN "*.svg")

@@ -69,7 +69,7 @@ std::vector<Word<T>> boundary_words(uint32_t seed) {
 // time, from the part after the next.
 template <class T>
 std::vector<Word<T>> inputs(const registry::Family& family, uint32_t seed) {
-  auto words = mixed_words<T>(part_length, family.low, family.high, 0.1, seed);
+  auto words = mixed_words<T>(part_length, family.low, family.high, 0.25, seed);
   for (const auto& part : {mixed_words<T>(part_length, family.low, family.high, 1, seed + 10),
                            subnormal_words<T>(seed + 20), boundary_words<T>(seed + 30)})
     words.insert(words.end(), part.begin(), part.end());

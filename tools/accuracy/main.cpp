@@ -181,6 +181,7 @@ int run(int argc, char** argv) {
   Arguments a;
   a.setting.jobs = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
   CLI::App app("Measures the accuracy of libdakvmpx's functions against MPFR", "dakvm-accuracy");
+  app.fallthrough();
   app.add_option("FUNC", a.function, "A family (Exp) or a function (daksExp_64f_A53)");
   app.add_option("--type", a.type, "Of a family, the functions of this type alone")
       ->check(CLI::IsMember({"64f", "32f"}));
@@ -269,7 +270,6 @@ int run(int argc, char** argv) {
   documenting->add_option("--header", header, "The header")->capture_default_str();
   documenting->add_flag("--check", check, "Write nothing; exit code 1 if something would change");
   app.require_subcommand(0, 1);
-  app.fallthrough();
   app.footer(
       "Without --range, --inputs, --hard or --exhaustive the intervals of the published figures "
       "are\n"

@@ -464,7 +464,7 @@ bool document(const Publication& publication, const std::string& markdown,
 
 namespace {
 
-constexpr int plot_columns = 360, plot_samples = 300;
+constexpr int plot_columns = 240, plot_samples = 300;
 
 // Arguments spread over several powers of ten are drawn on a logarithmic axis.
 bool is_logarithmic(const Function& f) { return f.low > 0 && f.high / f.low >= 100; }
