@@ -63,6 +63,7 @@ class Judge {
   Modes modes_;
   mpfr_rnd_t rounding_;
   mutable mpfr_t x_, y_, exact_, work_;
+  bool was_rounded_ = false;  // exact_ is close to the exact result, not equal
 };
 
 // "overflow", "ok"; "invalid inexact", "none"

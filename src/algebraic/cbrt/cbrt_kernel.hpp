@@ -41,7 +41,7 @@ struct Element {
   uint32_t row, r;
   Split cut;
   double a, ml, head;  // head of e: 1 - a T
-  double inner;        // of the series from c8, later from c4 on
+  Ext inner;           // of the series from c8, later from c4 on
 
   template <class T>
   DAKVM_INLINE void start(const Table& t, const T* x) {
@@ -73,11 +73,11 @@ struct Element {
   }
   DAKVM_INLINE void start_series(const Table& t) {
     const Ext e = residual(t).e;
-    inner = narrow<double>((((t.c12 * e + t.c11) * e + t.c10) * e + t.c9) * e + t.c8);
+    inner = (((t.c12 * e + t.c11) * e + t.c10) * e + t.c9) * e + t.c8;
   }
   DAKVM_INLINE void continue_series(const Table& t) {
     const Ext e = residual(t).e;
-    inner = narrow<double>((((inner * e + t.c7) * e + t.c6) * e + t.c5) * e + t.c4);
+    inner = (((inner * e + t.c7) * e + t.c6) * e + t.c5) * e + t.c4;
   }
   DAKVM_INLINE Ext rebuild(const Table& t) const {
     const auto [e, b] = residual(t);

@@ -39,7 +39,7 @@ struct Element {
   double indexed;      // its low word holds the row
   Split v_cut, a_cut;
   double cube, vl, a, ah, s, y;
-  double inner;  // d3 + ... + d8 e^5
+  Ext inner;  // d3 + ... + d8 e^5
 
   template <class T>
   DAKVM_INLINE void start(const Table& t, const T* x) {
@@ -81,7 +81,7 @@ struct Element {
   }
   DAKVM_INLINE void start_polynomial(const Table& t) {
     const Ext e = a - Ext{cube} * vl;
-    inner = narrow<double>(((((t.d8 * e + t.d7) * e + t.d6) * e + t.d5) * e + t.d4) * e + t.d3);
+    inner = ((((t.d8 * e + t.d7) * e + t.d6) * e + t.d5) * e + t.d4) * e + t.d3;
   }
   DAKVM_INLINE Ext rebuild(const Table& t) const {
     const Ext T = seed(t);

@@ -65,22 +65,21 @@ struct Difference {
   }
 };
 
-// asin(y) = sum + correction for |y| < 1/2. The field `inner` takes the polynomial up to
-// where its rounding is 2^-68 of the result.
+// asin(y) = sum + correction for |y| < 1/2.
 template <class Table>
 struct Small {
   double y;
   double sum;
-  double inner;  // B3 + ... + B11 v^8
+  Ext inner;  // B3 + ... + B11 v^8
 
   DAKVM_INLINE void add_leading(const Table& t) { sum = narrow<double>(y + leading(t)); }
   DAKVM_INLINE void start_polynomial(const Table& t) {
     const Ext v = Ext{y} * y;
-    inner = narrow<double>(
+    inner =
         (((((((t.b11 * v + t.b10) * v + t.b9) * v + t.b8) * v + t.b7) * v + t.b6) * v + t.b5) * v +
          t.b4) *
             v +
-        t.b3);
+        t.b3;
   }
   DAKVM_INLINE Ext correction(const Table& t) const {
     const Ext v = Ext{y} * y;
@@ -100,8 +99,8 @@ template <class Table>
 struct Large {
   double w, z;
   TableRoot root;
-  double Q;      // L0 + L1 w + ..., to a double
-  double inner;  // R3 + ... + R11 w^8
+  double Q;   // L0 + L1 w + ..., to a double
+  Ext inner;  // R3 + ... + R11 w^8
   double root_head, root_high, Q_high;
   Split root_cut, Q_cut;
   double product;
@@ -125,11 +124,11 @@ struct Large {
   DAKVM_INLINE void start_series(const Table& t) { root.start_series(t, root.low()); }
   DAKVM_INLINE void start_polynomial(const Table& t) {
     const Ext w = this->w;
-    inner = narrow<double>(
+    inner =
         (((((((t.r11 * w + t.r10) * w + t.r9) * w + t.r8) * w + t.r7) * w + t.r6) * w + t.r5) * w +
          t.r4) *
             w +
-        t.r3);
+        t.r3;
   }
   DAKVM_INLINE Ext multiply() {
     const Ext s = root_cut.high(), q = Q_cut.high();

@@ -3,15 +3,16 @@
 // Method     A = |a| 2^-k in [1, 2), B = |b| 2^-k, q = A/B. With the breakpoint c of q (arc.hpp),
 //            the reduced argument is formed without the quotient,
 //                t = N/D,  N = A - c B,  D = B + c A
-//            and V = hi + lo + t + t s P(s) is the angle in the first quadrant. The result is
+//            and V = hi + lo + t + t s P(s) is the angle in the first quadrant; s is t^2, below
+//            q = 1/8, where t is the quotient, the square of the rounded q. The result is
 //            V - O, times `side`: O is 0 and side 1 for b > 0, O is pi and side -1 for b < 0; then
 //            the sign of a.
 //            t = t1 + t2: t1 is the quotient in 24 bits, t2 what the residual N - t1 D adds.
 // Exactness  c B and c A have 56 bits, N cancels into 56. D1 has 24 bits, so t1 D1 is exact; D2,
 //            the rest of D, is known to 2^-88 of D. W is the rounded sum of O, hi and t1; what it
 //            lost is computed to 2^-115.
-// Error      t is off by 2^-84 of itself. Below q = 1/8 the polynomial decides, 0.5023 ulp of a
-//            double; elsewhere one rounding of 64 bits before the store.
+// Error      t is off by 2^-84 of itself. Below q = 1/8 the rounding of q in s decides, up to 0.507
+//            ulp of a double just below 1/8; elsewhere one rounding of 64 bits before the store.
 // Special    NaN, infinities, zeros, subnormal numbers, exponents that differ by 54 or more: apply.
 // Source     Table: tools/gentables/atan.cpp.
 #pragma once
@@ -45,8 +46,10 @@ struct Element {
   double A, B, c, q, sign;
   const Row* row;
   const Half* half;
-  float t1, D1;
-  double t2, W;
+  float D1;
+  uint32_t reduced;
+  double squared[2][2];  // the polynomial's argument in two parts: q, and from 1/8 on t
+  double W;
   T magnitude;
 
   template <class Source>
@@ -62,24 +65,31 @@ struct Element {
 
   DAKVM_INLINE void locate(const Table&) { q = narrow<double>(Ext{A} / B); }
   DAKVM_INLINE void choose(const Table& t) {
-    row = choose_breakpoint(t.arc, Bits<double>::read(&q).high, c);
+    const uint32_t high = Bits<double>::read(&q).high;
+    row = choose_breakpoint(t.arc, high, c);
+    reduced = high >= atan::first_breakpoint;
+    squared[0][0] = narrow<double>(q);
+    put_words(squared[0][1], 0, 0);
   }
   DAKVM_INLINE void divide(const Table&) {
     const Ext D = B + Ext{c} * A;
     D1 = narrow<float>(D);
-    t1 = narrow<float>((A - Ext{c} * B) / D);
+    squared[1][0] = round_to_float((A - Ext{c} * B) / D);
   }
   DAKVM_INLINE void divide_residual(const Table&) {
+    const Ext t1 = squared[1][0];
     const Ext D2 = (Ext{c} * A - D1) + B;
-    const Ext residual = ((A - Ext{c} * B) - Ext{t1} * D1) - t1 * D2;
-    t2 = narrow<double>(residual / (D1 + D2));
-    W = narrow<double>((Ext{t1} + row->hi) - half->offset_hi);
+    const Ext residual = ((A - Ext{c} * B) - t1 * D1) - t1 * D2;
+    squared[1][1] = narrow<double>(residual / (D1 + D2));
+    W = narrow<double>((t1 + row->hi) - half->offset_hi);
   }
   DAKVM_INLINE void add_rest(const Table& t) {
     settle(&t);
-    const Ext t_value = Ext{t1} + t2;
-    const Ext s = t_value * t_value;
-    const Ext higher = s * polynomial(t.arc, s) * t_value;
+    const auto& [t1, t2] = squared[1];
+    const auto& [high, low] = squared[reduced];
+    const Ext root = Ext{high} + low;
+    const Ext s = root * root;
+    const Ext higher = s * polynomial(t.arc, s) * (Ext{t1} + t2);
     const Ext W_rest = (row->hi - (Ext{W} + half->offset_hi)) + t1;
     const Ext rest = (((W_rest + t2) + higher) + row->lo) - half->offset_lo;
     magnitude = narrow<T>((W + rest) * half->side);
