@@ -41,6 +41,7 @@ TEST(Erf, KnownResults) {
                                {0x0010000000000000, 0x00120dd750429b6d, ok, inexact},
                                {0x3d6fffffffffffff, 0x3d720dd750429b6d, ok, inexact},  // 2^-40
                                {0x3d70000000000000, 0x3d720dd750429b6d, ok, inexact},
+                               {0x3fb5988928000000, 0x3fb84f84a0cf699f, ok, inexact},  // a near tie
                                {0x3fc0000000000000, 0x3fc1f5e1a35c3b89, ok, inexact},
                                {0x3fe0000000000000, 0x3fe0a7ef5c18edd2, ok, inexact},
                                {one | minus, 0x3feaf767a741088b | minus, ok, inexact},

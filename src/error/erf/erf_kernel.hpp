@@ -149,20 +149,31 @@ struct Small : Argument {
   }
 };
 
-// A nonzero x below 2^-40: 2/sqrt(pi) x.
+// 2/sqrt(pi) x for a nonzero x below 2^-40, in two parts and times 2^200.
+struct Linear {
+  Ext lead, tail;
+
+  DAKVM_INLINE Linear(const Table& t, Ext raised) {
+    const Ext h = head_of(raised, t.splitter), l = raised - h;
+    lead = h * t.slope_hi;
+    tail = h * t.slope_lo + l * t.slope_lo + l * t.slope_hi;
+  }
+};
+
 DAKVM_INLINE Ext linear(const Table& t, Ext x) {
+  const Linear product(t, x * t.raise);
+  return (product.lead + product.tail) * t.lower;
+}
+// For a subnormal x.
+DAKVM_INLINE Ext linear_from_subnormal(const Table& t, Ext x) {
   const Ext y = __builtin_fabsl(x);
-  const Ext raised = x * t.raise;
-  if (y < t.unsplit) return raised * t.slope * t.lower;
-  const Ext head = head_of(raised, t.splitter), tail = raised - head;
-  const Ext product = head * t.slope_hi;
-  const Ext rest = head * t.slope_lo + tail * t.slope_lo + tail * t.slope_hi;
-  if (y >= t.subnormal) return (product + rest) * t.lower;
+  if (y < t.unsplit) return x * t.raise * t.slope * t.lower;
+  if (y >= t.subnormal) return linear(t, x);
   // The head stays exact when it is scaled down, so that only the rest is rounded, and once.
-  const Ext product_head = head_of(product, t.splitter);
-  const Ext product_tail = round_to_double(product - product_head);
-  return round_to_double(product_head * t.lower) +
-         Ext{round_to_double((round_to_double(rest) + product_tail) * t.lower)};
+  const Linear product(t, x * t.raise);
+  const Ext head = head_of(product.lead, t.splitter);
+  const Ext rest = round_to_double(product.tail) + Ext{round_to_double(product.lead - head)};
+  return round_to_double(head * t.lower) + Ext{round_to_double(rest * t.lower)};
 }
 
 template <class T>
@@ -193,7 +204,14 @@ struct Kernel {
       return Status::ok;
     }
     const Ext x = load(src);
-    *dst = narrow<T>(bits.is_nan() ? x + x : bits.is_zero() ? x : linear(t, x));
+    if (bits.is_nan())
+      *dst = narrow<T>(x + x);
+    else if (bits.is_zero())
+      *dst = narrow<T>(x);
+    else if (sizeof(T) == sizeof(double) && bits.exponent() == 0)
+      *dst = narrow<T>(linear_from_subnormal(t, x));
+    else
+      *dst = narrow<T>(linear(t, x));
     return Status::ok;
   }
 };
