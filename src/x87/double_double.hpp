@@ -65,11 +65,4 @@ DAKVM_INLINE Ext head_of(Ext x, Ext splitter) {
   return product - Ext{round_to_double(product - x)};
 }
 
-// (a + b) factor where that is a subnormal double and factor a power of two: the head of the sum
-// stays exact when it is scaled down, so that only the rest is rounded, and once.
-DAKVM_INLINE Ext scaled_to_subnormal(Ext a, Ext b, Ext splitter, Ext factor) {
-  const Ext head = head_of(a + b, splitter);
-  return head * factor + round_to_double(((a - head) + b) * factor);
-}
-
 }  // namespace dakvm::x87

@@ -140,6 +140,7 @@ int main(int argc, char** argv) {
   scalar("splitter", 0x1p+27 + 1);
   scalar("zero", 0);
   scalar("least", 0x1.0000000000001p-1022);
+  if (is_float) std::printf(".neighbours = {%a, %a},\n", 1 - 0x1p-53, 2 + 0x1p-51);
   scalar("one", 1);
   scalar("minus_one", -1);
   scalar("two", 2);

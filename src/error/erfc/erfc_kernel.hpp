@@ -8,13 +8,13 @@
 //                -y^2 = N ln2/64 + r with N = nearest(-64 y^2/ln2) = 64 M + j, 0 <= j < 64,
 //                e = 2^M 2^(j/64) (1 + q),  q = e^r - 1 of degree 6,  |r| <= 0.00542.
 //            Rows 0 to 5 take the same way with N = r = 0. A negative x gives 2 - erfc(y).
-// Exactness  A float's 24 bits are the head of a value, its difference from the value the tail.
-//            Products of two heads, and of a head with the 26 bits of 2^(j/64), are exact. So is
-//            c_k - head + product: the partial sums are no more than twice as large as c_k. step_hi
-//            has 36 bits and N 17, so N step_hi is exact, and the square of the head of y too.
-// Error      Fits 2^-69.7 or less, in row 5 2^-64.3; the terms of c4 and c5 in one register 2^-69,
-//            tails 2^-77, q in a register 2^-71.5; the rounding of 64 bits before the store.
-//            Subnormal results are rounded once. Largest seen 0.5004 ulp.
+// Exactness  Values are split into a head of 26 bits and the rest; products of two heads are exact.
+//            So is c_k - sum + product in a register, in this order: t times the rest is no more
+//            than twice as large as c_k. step_hi has 36 bits and N 17, so N step_hi is exact, and
+//            with it -h^2 - N step_hi, h the head of y.
+// Error      Fits 2^-69.7 or less, in row 5 2^-64.3; tails 2^-80, q in a register 2^-71.5; the
+//            rounding of 64 bits before the store, for subnormal results too. Largest seen
+//            0.5004 ulp.
 // Special    NaN, infinities, |x| < 2^-70, results 2 (x <= -5.86...), subnormal results
 //            (x >= 26.54...), underflow (x >= 27.22..., 32f 10.05...): apply.
 // Source     P. T. P. Tang, ACM TOMS 15 (1989) 144-157, for the exponential. Rows:
@@ -33,6 +33,16 @@ struct Row {
   double d[10];
 };
 
+// In single precision only: the neighbours of 1 and 2, which round to them and raise inexact, as
+// 1 + x and 2 - least do for both types.
+template <class T>
+struct Neighbours {};
+template <>
+struct Neighbours<float> {
+  double of_one, of_two;
+};
+
+template <class T>
 struct Table {
   Row rows[20];
   double exponential[5];              // e^r - 1 = r + r^2 (1/2 + ...)
@@ -42,27 +52,34 @@ struct Table {
   double shifter, splitter;           // 1.5 * 2^52, 2^27 + 1
   double zero;
   double least;  // its square underflows
+  [[no_unique_address]] Neighbours<T> neighbours = {};
   double one, minus_one, two;
   double underflow, few_bits, subnormal, two_from;  // bounds on x, which belong to what they bound
 };
-static_assert(sizeof(Table) == 628 * sizeof(double));
+static_assert(sizeof(Table<double>) == 628 * sizeof(double));
+static_assert(sizeof(Table<float>) == 630 * sizeof(double));
 
 constexpr int first_scaled = 6;  // from this row on e is e^(-y^2)
 
+template <class T>
 struct Element {
+  using Table = erfc::Table<T>;
+
+  Ext P;
   double y;
   double base;           // 0, or 2 for negative x
   double power;          // (1 + y)^4
   double exponent_root;  // y, or 0 where e is 1
-  double t, t_tail;
-  double rest;   // of the partial sum behind `head`
-  double N;      // shifted
-  double scale;  // 2^M, negative for negative x
+  double t, t_head, t_tail;
+  double sum, rest;                                         // the partial sum
+  double N;                                                 // shifted
+  double scale;                                             // 2^M, negative for negative x
+  double growth, growth_tail;                               // 1 + q
+  double e, e_tail;                                         // e 2^-M
+  Split t_parts, root_parts, parts, growth_parts, e_parts;  // parts: of P or the partial sum
   const Row* row;
-  float t_head, root_head, head;
   uint32_t negative, step;
 
-  template <class T>
   DAKVM_INLINE void start(const Table&, const T* src) {
     const auto x = Bits<T>::read(src);
     negative = x.lead() & 0x80000000;
@@ -75,57 +92,101 @@ struct Element {
     const Ext square = (t.one + y) * (t.one + y);
     power = narrow<double>(square * square);
   }
-  DAKVM_INLINE void reduce(const Table& t) {
+  DAKVM_INLINE void reduce(const Table& table) {
     const uint32_t n = Bits<double>::read(&power).exponent() - Bits<double>::bias;
-    row = &t.rows[n];
+    row = &table.rows[n];
     const uint32_t mask = n < first_scaled ? 0 : 0xffffffff;
     const auto bits = Bits<double>::read(&y);
     put_words(exponent_root, bits.high & mask, bits.low & mask);
-    const Ext reduced = row->a * Ext{y} + row->b;
-    t_head = narrow<float>(reduced);
-    this->t = narrow<double>(reduced);
+    const Ext reduced = round_to_double(row->a * Ext{y} + row->b);
+    t = narrow<double>(reduced);
+    t_parts.multiply(reduced, table.splitter);
   }
-  DAKVM_INLINE void sum_polynomial(const Table& t) {
-    settle(&t);
+  DAKVM_INLINE void split(const Table& table) {
+    t_parts.subtract(t);
+    root_parts.multiply(exponent_root, table.splitter);
+  }
+  DAKVM_INLINE void take_heads(const Table&) {
+    const Ext head = t_parts.high();
+    t_head = narrow<double>(head);
+    t_tail = narrow<double>((t - head) + (row->a * Ext{y} + (row->b - Ext{t})));
+    root_parts.subtract(exponent_root);
+  }
+  DAKVM_INLINE void sum_polynomial(const Table& table) {
+    settle(&table);
     const auto& d = row->d;
-    const Ext u = this->t;
-    t_tail = narrow<double>(row->a * Ext{y} + (row->b - Ext{t_head}));
-    const auto& c = row->c;
-    Ext P = d[9];
-    for (int k = 8; k >= 0; --k) P = P * u + d[k];
-    const Ext S = c[4][0] + (c[4][1] + u * (c[5][0] + (c[5][1] + u * P)));
-    head = round_to_float(S);
-    rest = narrow<double>(S - head);
+    const Ext u = t;
+    Ext p = d[9];
+    for (int k = 8; k >= 0; --k) p = p * u + d[k];
+    P = p;
+    parts.multiply(p, table.splitter);
   }
-  DAKVM_INLINE void add_c3(const Table& t) {
-    add_term(row->c[3]);
-    const Ext root = exponent_root;
-    root_head = narrow<float>(root);
-    N = narrow<double>(t.shifter - root * root * t.inv_step);
+  DAKVM_INLINE void split_polynomial(const Table& t) {
+    parts.subtract(P);
+    const Ext h = root_parts.high();
+    N = narrow<double>(t.shifter - h * h * t.inv_step);
   }
-  DAKVM_INLINE void add_c2(const Table&) {
-    add_term(row->c[2]);
+  DAKVM_INLINE void add_c5(const Table& t) {
+    const Ext h = parts.high();
+    add_term(t, row->c[5], h, P - h);
+  }
+  DAKVM_INLINE void split_sum(const Table&) { parts.subtract(sum); }
+  template <int k>
+  DAKVM_INLINE void add(const Table& t) {
+    const Ext h = parts.high();
+    add_term(t, row->c[k], h, (sum - h) + rest);
+  }
+
+  DAKVM_INLINE void take_step(const Table& t) {
+    split_sum(t);
     step = low_word(N) % 64;
     put_scale(0);
   }
-  DAKVM_INLINE void add_c1(const Table&) { add_term(row->c[1]); }
-  DAKVM_INLINE void add_c0(const Table&) { add_term(row->c[0]); }
-
-  DAKVM_INLINE Ext rebuild(const Table& t) const {
-    settle(&t);
-    const auto [lead, tail] = product(t);
-    const Ext a = lead * scale, b = tail * scale;
-    const double sum = round_to_double(base + a);
-    return sum + (((base - Ext{sum}) + a) + b);
+  DAKVM_INLINE void sum_exponential(const Table& t) {
+    const Ext root = exponent_root, h = root_parts.high(), l = root - h, n = Ext{N} - t.shifter;
+    const Ext z_tail = h * l + l * l + l * h;
+    const Ext r = ((-(h * h) - n * t.step_hi) - n * t.step_lo) - z_tail;
+    const auto& c = t.exponential;
+    const Ext q = r + r * r * (c[0] + r * (c[1] + r * (c[2] + r * (c[3] + r * c[4]))));
+    const Ext rounded = round_to_double(t.one + q);
+    growth = narrow<double>(rounded);
+    growth_tail = narrow<double>(q - (rounded - t.one));
+    growth_parts.multiply(rounded, t.splitter);
+  }
+  DAKVM_INLINE void split_growth(const Table& t) {
+    split_sum(t);
+    growth_parts.subtract(growth);
+  }
+  DAKVM_INLINE void take_power(const Table& t) {
+    const Ext h = growth_parts.high(), l = (growth - h) + growth_tail;
+    const auto& [hi, lo] = t.pow2[step];
+    const Ext product = hi * h, product_tail = hi * l + lo * h + lo * l;
+    const Ext rounded = round_to_double(product + product_tail);
+    e = narrow<double>(rounded);
+    e_tail = narrow<double>((product - rounded) + product_tail);
+    e_parts.multiply(rounded, t.splitter);
+  }
+  DAKVM_INLINE void split_factors(const Table& t) {
+    split_sum(t);
+    e_parts.subtract(e);
+  }
+  DAKVM_INLINE Ext rebuild(const Table&) const {
+    const auto [a, b] = product();
+    const double lead = round_to_double(base + a);
+    return lead + (((base - Ext{lead}) + a) + b);
   }
   Ext rebuild_subnormal(const Table& t, bool few_bits) {
     put_scale(200);
     settle(this);
-    const auto [lead, tail] = product(t);
-    const Ext a = lead * scale, b = tail * scale;
-    if (!few_bits) return scaled_to_subnormal(a, b, t.splitter, t.lower);
-    const Ext result = (a + b) * t.lower;
-    return result + result * result;  // inexact, whatever the sum was
+    const auto [a, b] = product();
+    const Ext raised = a + b;
+    if (few_bits) {
+      const Ext result = raised * t.lower;
+      return result + result * result;  // inexact, whatever the sum was
+    }
+    // The head stays exact when it is scaled down, so that only the rest is rounded.
+    const Ext head = head_of(raised, t.splitter);
+    return round_to_double(head * t.lower) + Ext{round_to_double((raised - head) * t.lower)};
   }
 
  private:
@@ -135,36 +196,39 @@ struct Element {
     put_words(scale, negative | (M + raised + Bits<double>::bias) << 20, 0);
   }
 
-  // The partial sum head + rest becomes c + t (head + rest).
-  DAKVM_INLINE void add_term(const double (&c)[2]) {
-    const Ext product = Ext{t_head} * head;
-    const Ext next = round_to_float(c[0] + product);
-    rest =
-        narrow<double>(((c[0] - next) + product) + (Ext{t_tail} * head + (Ext{t} * rest + c[1])));
-    head = narrow<float>(next);
+  // The partial sum becomes c + t (h + l).
+  DAKVM_INLINE void add_term(const Table& t, const double (&c)[2], Ext h, Ext l) {
+    const Ext th = t_head, tl = t_tail;
+    const Ext product = th * h;
+    const Ext next = round_to_double(c[0] + product);
+    rest = narrow<double>(((c[0] - next) + product) + (th * l + tl * h + tl * l) + c[1]);
+    sum = narrow<double>(next);
+    parts.multiply(next, t.splitter);
   }
 
   struct Parts {
     Ext lead, tail;
   };
-  // R e 2^-M; the lead is exact and has 50 bits.
-  DAKVM_INLINE Parts product(const Table& t) const {
-    const Ext root = exponent_root, h = root_head, n = Ext{N} - t.shifter;
-    const Ext r = -((n * t.step_hi + h * h) + ((root - h) * (root + h) + n * t.step_lo));
-    const auto& e = t.exponential;
-    const Ext q = r + ((((e[4] * r + e[3]) * r + e[2]) * r + e[1]) * r + e[0]) * r * r;
-    const auto& [hi, lo] = t.pow2[step];
-    const Ext tail = lo + (Ext{hi} + lo) * q;
-    return {Ext{head} * hi, rest * (hi + tail) + head * tail};
+  // R e, the lead exact.
+  DAKVM_INLINE Parts product() const {
+    const Ext Rh = parts.high(), Rl = (sum - Rh) + rest;
+    const Ext eh = e_parts.high(), el = (e - eh) + e_tail;
+    return {Rh * eh * scale, (Rh * el + Rl * eh + Rl * el) * scale};
   }
 };
 
 template <class T>
 struct Kernel {
-  using Element = erfc::Element;
+  using Table = erfc::Table<T>;
+  using Element = erfc::Element<T>;
   using Stages =
-      frame::Pipeline<&Element::raise, &Element::reduce, &Element::sum_polynomial, &Element::add_c3,
-                      &Element::add_c2, &Element::add_c1, &Element::add_c0, &Element::rebuild>;
+      frame::Pipeline<&Element::raise, &Element::reduce, &Element::split, &Element::take_heads,
+                      &Element::sum_polynomial, &Element::split_polynomial, &Element::add_c5,
+                      &Element::take_step, &Element::template add<4>, &Element::sum_exponential,
+                      &Element::split_growth, &Element::template add<3>, &Element::split_sum,
+                      &Element::template add<2>, &Element::split_sum, &Element::template add<1>,
+                      &Element::take_power, &Element::split_sum, &Element::template add<0>,
+                      &Element::split_factors, &Element::rebuild>;
 
   // 2^-70 <= |x|, below the first bound of its side; of the bounds their high words.
   DAKVM_INLINE static bool is_ordinary(const Table&, Bits<T> x) {

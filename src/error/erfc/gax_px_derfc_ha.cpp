@@ -3,7 +3,7 @@
 
 namespace {
 constexpr char _GAX_THISFUNC_NAME[] = "";
-constexpr dakvm::erfc::Table _gaxdErfcHATab = {
+constexpr dakvm::erfc::Table<double> _gaxdErfcHATab = {
 #include "error/erfc/erfc_ha_64f.inc"
 };
 }  // namespace

@@ -3,7 +3,7 @@
 
 namespace {
 constexpr char _GAX_THISFUNC_NAME[] = "";
-constexpr dakvm::erfc::Table _gaxdErfcHATab = {
+constexpr dakvm::erfc::Table<float> _gaxdErfcHATab = {
 #include "error/erfc/erfc_ha_32f.inc"
 };
 }  // namespace
