@@ -96,19 +96,22 @@ struct Reduction {
     return t.rows[(16 * y.q + low_word(shifted) + turn) % 64];
   }
   DAKVM_INLINE Ext rh() const { return Ext{a} - m; }
-  DAKVM_INLINE Ext sum(const Table& t, uint32_t turn, const Terms& terms) const {
-    const Row& at = row(t, turn);
-    const Ext r = rh();
-    const Ext rlow = ((a - r) - m) - n * Ext{t.step3} + y.lo;
-    const Ext D = rlow * (at.C() - r * at.S) + at.Sl;
-    const Ext first = at.c * r;
-    const Ext A = at.S + first;
-    const Ext rest = (first + (at.S - A)) + (D + (Ext{terms.Ps} + terms.Pc));
-    const Ext second = at.Cd * r;
-    const Ext B = A + second;
-    return B + ((second + (A - B)) + rest);
+  DAKVM_INLINE Ext rlow(const Table& t, Ext r) const {
+    return ((a - r) - m) - n * Ext{t.step3} + y.lo;
   }
 };
+
+// S + C sin(r) + ..., each sum's error settled behind it, so that few values live at a time.
+DAKVM_INLINE Ext sum(const Row& at, Ext r, Ext rlow, const Terms& terms) {
+  const Ext first = at.c * r;
+  const Ext A = at.S + first;
+  const Ext lost_in_A = computed(first + (at.S - A));
+  const Ext second = at.Cd * r;
+  const Ext B = A + second;
+  const Ext lost_in_B = computed(second + (A - B));
+  const Ext D = rlow * (at.C() - r * at.S) + at.Sl;
+  return B + (lost_in_B + (lost_in_A + (D + (Ext{terms.Ps} + terms.Pc))));
+}
 
 // Sine, or cosine with turn = quarter_turn.
 template <class Table, uint32_t turn>
@@ -122,7 +125,8 @@ struct OneResult : Reduction<Table> {
   }
   DAKVM_INLINE Ext combine(const Table& t) const {
     settle(&t);
-    return this->sum(t, turn, terms);
+    const Ext r = this->rh();
+    return sum(this->row(t, turn), r, this->rlow(t, r), terms);
   }
 
   using Stages = frame::Pipeline<&OneResult::round_to_integer, &OneResult::subtract,
@@ -131,7 +135,7 @@ struct OneResult : Reduction<Table> {
 
 struct TwoResults : Reduction<SinTable> {
   Terms of_sine, of_cosine;
-  double sine;
+  double sine, cosine;
 
   DAKVM_INLINE void evaluate(const SinTable& t) {
     settle(&t);
@@ -140,18 +144,17 @@ struct TwoResults : Reduction<SinTable> {
     of_sine.set(row(t, 0), sine_part, cosine_part);
     of_cosine.set(row(t, quarter_turn), sine_part, cosine_part);
   }
-  DAKVM_INLINE void combine_sine(const SinTable& t) {
+  DAKVM_INLINE void combine(const SinTable& t) {
     settle(&t);
-    sine = narrow<double>(sum(t, 0, of_sine));
-  }
-  DAKVM_INLINE std::pair<Ext, Ext> combine_cosine(const SinTable& t) const {
+    const Ext r = rh(), low = rlow(t, r);
+    sine = narrow<double>(sum(row(t, 0), r, low, of_sine));
     settle(&t);
-    return {sine, sum(t, quarter_turn, of_cosine)};
+    cosine = narrow<double>(sum(row(t, quarter_turn), r, low, of_cosine));
   }
+  DAKVM_INLINE std::pair<Ext, Ext> results(const SinTable&) const { return {sine, cosine}; }
 
-  using Stages =
-      frame::Pipeline<&TwoResults::round_to_integer, &TwoResults::subtract, &TwoResults::evaluate,
-                      &TwoResults::combine_sine, &TwoResults::combine_cosine>;
+  using Stages = frame::Pipeline<&TwoResults::round_to_integer, &TwoResults::subtract,
+                                 &TwoResults::evaluate, &TwoResults::combine, &TwoResults::results>;
 };
 
 template <class Table, class ElementOf>
