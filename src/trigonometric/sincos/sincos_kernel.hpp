@@ -49,6 +49,8 @@ struct CosTable {
 };
 static_assert(sizeof(CosTable) == 272 * sizeof(double));
 
+constexpr uint32_t wide = 0x41000000;  // 2^17
+
 // Rows from the angle of the sine to that of the cosine.
 constexpr uint32_t quarter_turn = 16;
 
@@ -78,10 +80,7 @@ struct Reduction {
   double shifted;  // its low word is N
   double n, a, m;  // N, y - N P1, N P2: doubles all of them
 
-  DAKVM_INLINE void start(const Table&, const double* x) {
-    constexpr uint32_t wide = 0x41000000;  // 2^17
-    y.take(x, wide);
-  }
+  DAKVM_INLINE void start(const Table&, const double* x) { y.take(x); }
   DAKVM_INLINE void round_to_integer(const Table& t) {
     shifted = narrow<double>(t.inv_step * Ext{y.hi} + t.shifter);
   }
@@ -129,8 +128,8 @@ struct OneResult : Reduction<Table> {
     return sum(this->row(t, turn), r, this->rlow(t, r), terms);
   }
 
-  using Stages = frame::Pipeline<&OneResult::round_to_integer, &OneResult::subtract,
-                                 &OneResult::evaluate, &OneResult::combine>;
+  using Stages = frame::Pipeline<&trig::reduce_wide<OneResult, wide>, &OneResult::round_to_integer,
+                                 &OneResult::subtract, &OneResult::evaluate, &OneResult::combine>;
 };
 
 struct TwoResults : Reduction<SinTable> {
@@ -153,7 +152,8 @@ struct TwoResults : Reduction<SinTable> {
   }
   DAKVM_INLINE std::pair<Ext, Ext> results(const SinTable&) const { return {sine, cosine}; }
 
-  using Stages = frame::Pipeline<&TwoResults::round_to_integer, &TwoResults::subtract,
+  using Stages = frame::Pipeline<&trig::reduce_wide<TwoResults, wide>,
+                                 &TwoResults::round_to_integer, &TwoResults::subtract,
                                  &TwoResults::evaluate, &TwoResults::combine, &TwoResults::results>;
 };
 

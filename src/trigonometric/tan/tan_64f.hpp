@@ -76,6 +76,8 @@ struct Remainder {
   }
 };
 
+constexpr uint32_t wide = 0x40c90000;  // 12800
+
 struct Element {
   trig::Argument y;
   double shifted;  // its low word is K
@@ -86,10 +88,7 @@ struct Element {
   double S1, S2;
   double L;
 
-  DAKVM_INLINE void start(const Table&, const double* x) {
-    constexpr uint32_t wide = 0x40c90000;  // 12800
-    y.take(x, wide);
-  }
+  DAKVM_INLINE void start(const Table&, const double* x) { y.take(x); }
   DAKVM_INLINE void round_to_integer(const Table& t) {
     shifted = narrow<double>(Ext{y.hi} * t.inv_step + t.shifter);
   }
@@ -138,10 +137,10 @@ struct Element {
 
 struct Kernel {
   using Element = tan::Element;
-  using Stages =
-      frame::Pipeline<&Element::round_to_integer, &Element::subtract_two, &Element::subtract_third,
-                      &Element::shorten, &Element::invert, &Element::shorten_reciprocal,
-                      &Element::add_slope, &Element::sum_tail, &Element::finish>;
+  using Stages = frame::Pipeline<&trig::reduce_wide<Element, wide>, &Element::round_to_integer,
+                                 &Element::subtract_two, &Element::subtract_third,
+                                 &Element::shorten, &Element::invert, &Element::shorten_reciprocal,
+                                 &Element::add_slope, &Element::sum_tail, &Element::finish>;
 
   DAKVM_INLINE static bool is_ordinary(const Table&, Bits<double> x) {
     return trig::is_ordinary(x);
