@@ -33,7 +33,7 @@ struct Accumulator {
 
   DAKVM_INLINE void add(Ext term) {
     const Ext sum = head + term;
-    tail += term + (head - sum);
+    tail = computed(tail + (term + (head - sum)));
     head = sum;
   }
   DAKVM_INLINE void fold_tail() {
