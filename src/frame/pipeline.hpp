@@ -47,11 +47,11 @@ struct Pipeline<stage, next, rest...> {
   // Every stage but the last, over `count` elements.
   template <class Element, class Context>
   DAKVM_INLINE static void advance(Element* elements, int32_t count, const Context& context) {
-    if constexpr (std::is_invocable_v<decltype(stage), Element*, int32_t>) {
-      stage(elements, count);
-    } else {
+    if constexpr (std::is_member_function_pointer_v<decltype(stage)>) {
 #pragma GCC unroll 2
       for (int32_t k = 0; k < count; ++k) call(stage, elements[k], context);
+    } else {
+      stage(elements, count);
     }
     x87::settle(elements);
     Pipeline<next, rest...>::advance(elements, count, context);

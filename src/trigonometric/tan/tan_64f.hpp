@@ -123,6 +123,7 @@ struct Element {
     settle(&t);
     const Row& c = row(t);
     const Ext x = r.hi;
+    const Ext Q = computed(x * x * ((((P.whole() * x + c.c5) * x + c.c4) * x + c.c3) * x + c.c2));
     const Ext first = c.slope1 * x, second = c.slope2 * x;
     const Ext S1 = round_to_double(first + second);
     const Ext lost_in_S1 = computed(first - S1 + second);
@@ -132,9 +133,7 @@ struct Element {
     const Ext lost_in_S2 = computed(leading - sum + S1);
     const Ext E = (s.lo + (Ext{s.hi} - s_t)) * R;
     const Ext C = computed((E + (Ext{s_t} * Rm - t.one)) * (Ext{c.pole_weight} * R));
-    const Ext Q = x * x * ((((P.whole() * x + c.c5) * x + c.c4) * x + c.c3) * x + c.c2) +
-                  lost_in_S1 + lost_in_S2;
-    L = narrow<double>(((Q + C) + Ext{c.slope2} * r.lo) + c.T_lo);
+    L = narrow<double>(((Q + lost_in_S1 + lost_in_S2 + C) + Ext{c.slope2} * r.lo) + c.T_lo);
   }
   DAKVM_INLINE Ext finish(const Table& t) const {
     return S2 + Ext{round_to_double(Ext{r.lo} * row(t).slope1 + L)};
