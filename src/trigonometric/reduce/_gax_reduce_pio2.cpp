@@ -7,8 +7,10 @@
 //            that all products are exact. Chunks whose products are multiples of 8 are left out;
 //            of the nine that follow, n is the integer part of the sum, F what remains of it, and
 //            r = F pi/4.
-// Exactness  The products have at most 53 bits; every sum keeps what its rounding lost. The sum of
-//            the leading products is taken modulo 8 before it is rounded.
+// Exactness  The products have at most 53 bits; every sum keeps what its rounding lost. Pieces and
+//            chunks follow one another, so that a sum is a multiple of the last place of the
+//            product it receives next. The sum of the leading products is taken modulo 8 before it
+//            is rounded.
 // Error      pi/4 in step with F: 2^-78 relative; in 53-bit precision 2^-75. The chunks left out
 //            below amount to 2^-145, r to at least 2^-61.
 // Source     M. H. Payne, R. N. Hanek, ACM SIGNUM 18 (1983) 19-24; W. J. Cody, W. Waite, Software
@@ -105,9 +107,9 @@ struct Large {
   double x, head, tail;  // |x| 2^-200, its first 26 bits, the others
   const double* chunk;
   uint32_t low_bits, n;
-  double S, multiple_of_8, below_S, lost;
-  double U, integer, below_U, lost_in_U;
-  Parts fraction, rest;
+  Parts leading, total;
+  double lost_in_leading, lost_in_total;
+  double multiple_of_8, integer;
 
   DAKVM_INLINE void start(const Argument& argument) {
     const auto bits = Bits<double>::read(&argument.hi);
@@ -118,74 +120,60 @@ struct Large {
     low_bits = 1090 + 25 * j - e;
     chunk = _DP + j;
   }
-  // The leading products. They have 55 bits: what a register of 53 bits loses is a double.
+  // Their sum has 55 bits: what a register of 53 bits loses is a double.
   DAKVM_INLINE void add_leading(const None&) {
     const Ext low = Ext{x} - head;
     tail = narrow<double>(low);
     Accumulator sum{low * chunk[0], 0};
-    sum.add(Ext{head} * chunk[1]);
-    lost = narrow<double>(sum.tail);
-    const double rounded = round_to_double(sum.head + sum.tail);
-    S = rounded;
-    below_S = narrow<double>(sum.head - rounded);
+    add_high(sum, 1);
+    const double S = round_to_double(sum.head + sum.tail);
+    leading = {S, narrow<double>(sum.head - S)};
+    lost_in_leading = narrow<double>(sum.tail);
   }
   DAKVM_INLINE void clear_fraction(const None&) {
-    put_without_low_bits(multiple_of_8, S, low_bits);
+    put_without_low_bits(multiple_of_8, leading.value, low_bits);
   }
-  // U serves for the integer part alone: the sum itself has more bits.
   DAKVM_INLINE void add_next(const None&) {
-    Accumulator sum{(Ext{S} - multiple_of_8) + below_S, lost};
+    Accumulator sum{leading.whole() - multiple_of_8, lost_in_leading};
     add_low(sum, 1);
     add_high(sum, 2);
     sum.fold_tail();
     add_low(sum, 2);
     add_high(sum, 3);
-    const double rounded = round_to_double(sum.head);
-    U = rounded;
-    below_U = narrow<double>(sum.head - rounded);
-    lost_in_U = narrow<double>(sum.tail);
+    total.put(sum.head);
+    lost_in_total = narrow<double>(sum.tail);
   }
   DAKVM_INLINE void take_octant(const None&) {
-    const auto bits = Bits<double>::read(&U);
+    const auto bits = Bits<double>::read(&total.value);
     const uint32_t fraction_bits = 1075 - bits.exponent();
     const uint64_t significand = (uint64_t{bits.high & 0xfffff} | 0x100000) << 32 | bits.low;
     const bool has_integer = bits.exponent() >= 1023;
     n = has_integer ? static_cast<uint32_t>(significand >> fraction_bits % 64) : 0;
-    put_without_low_bits(integer, U, has_integer ? fraction_bits : 63);
+    put_without_low_bits(integer, total.value, has_integer ? fraction_bits : 63);
   }
-  DAKVM_INLINE void add_third(const None&) {
-    Accumulator sum{(Ext{U} - integer) + below_U + _zero_none[n % 2], lost_in_U};
+  DAKVM_INLINE Octant finish(const None&) const {
+    Accumulator sum{total.whole() - integer + _zero_none[n % 2], lost_in_total};
     sum.fold_tail();
     add_low(sum, 3);
     add_high(sum, 4);
     add_low(sum, 4);
     add_high(sum, 5);
-    fraction.put(sum.head);
-    rest.put(sum.tail);
-  }
-  DAKVM_INLINE void add_last(const None&) {
-    Accumulator sum{fraction.whole(), rest.whole()};
     add_low(sum, 5);
     add_high(sum, 6);
     add_low(sum, 6);
     add_high(sum, 7);
     add_low(sum, 7);
     add_high(sum, 8);
-    fraction.put(sum.head);
-    rest.put(sum.tail);
-  }
-  DAKVM_INLINE Octant multiply(const None&) const {
-    const Ext F = fraction.whole(), raised = F * _TWO_26H;
+    const Ext F = sum.head, raised = F * _TWO_26H;
     const Ext fh = round_to_double(F + raised) - raised;
-    const Ext fl = (F - fh) + rest.whole();
+    const Ext fl = (F - fh) + sum.tail;
     const Ext p = fh * _PI04_25x2[0];
     const Ext t = fl * _PI04_25x2[0] + (fh + fl) * _PI04_25x2[1];
     const Ext h = t + p;
     return {n, h, (p - h) + t};
   }
-  using Stages =
-      frame::Pipeline<&Large::add_leading, &Large::clear_fraction, &Large::add_next,
-                      &Large::take_octant, &Large::add_third, &Large::add_last, &Large::multiply>;
+  using Stages = frame::Pipeline<&Large::add_leading, &Large::clear_fraction, &Large::add_next,
+                                 &Large::take_octant, &Large::finish>;
 
  private:
   DAKVM_INLINE void add_low(Accumulator& sum, int i) const { sum.add(Ext{tail} * chunk[i]); }
