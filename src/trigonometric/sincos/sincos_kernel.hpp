@@ -100,7 +100,8 @@ struct Reduction {
   }
 };
 
-// S + C sin(r) + ..., each sum's error settled behind it, so that few values live at a time.
+// S cos(r + rlow) + C sin(r + rlow). Each sum's error is computed at once, so that no value is
+// spilled.
 DAKVM_INLINE Ext sum(const Row& at, Ext r, Ext rlow, const Terms& terms) {
   const Ext first = at.c * r;
   const Ext A = at.S + first;
