@@ -26,7 +26,8 @@ DAKVM_INLINE Result call(Result (Base::*stage)(const Context&) const,
 }
 
 // Each stage is a member function of the element type, taking the kernel's context. The last one
-// is const and returns what the caller stores: Ext, or a pair of them.
+// is const and returns what the caller stores: Ext, or a pair of them. A step that few elements
+// need may be a function of the whole block, f(Element*, int32_t count), in the place of a stage.
 template <auto... stages>
 struct Pipeline;
 
@@ -46,8 +47,12 @@ struct Pipeline<stage, next, rest...> {
   // Every stage but the last, over `count` elements.
   template <class Element, class Context>
   DAKVM_INLINE static void advance(Element* elements, int32_t count, const Context& context) {
+    if constexpr (std::is_member_function_pointer_v<decltype(stage)>) {
 #pragma GCC unroll 2
-    for (int32_t k = 0; k < count; ++k) call(stage, elements[k], context);
+      for (int32_t k = 0; k < count; ++k) call(stage, elements[k], context);
+    } else {
+      stage(elements, count);
+    }
     x87::settle(elements);
     Pipeline<next, rest...>::advance(elements, count, context);
   }

@@ -7,22 +7,21 @@
 namespace dakvm::trig {
 using namespace x87;
 
-// x = q pi/2 + hi + lo, up to multiples of 2 pi.
-struct Argument : ReducedArg {
-  uint32_t q;
+using reduce::Argument;
 
-  // Numbers below `wide` (a high word) are taken as they are.
-  DAKVM_INLINE void take(const double* x, uint32_t wide) {
-    const auto bits = Bits<double>::read(x);
-    if (bits.magnitude() >= wide) [[unlikely]] {
-      q = static_cast<uint32_t>(reduce::by_half_pi(bits, *this));
-    } else {
-      q = 0;
-      hi = narrow<double>(*x);
-      lo = 0;
-    }
+// The first stage of a chain whose elements begin with an Argument y, which is x itself: numbers
+// from `wide` (a high word) on are reduced by pi/2.
+template <class Element, uint32_t wide>
+DAKVM_INLINE void reduce_wide(Element* elements, int32_t count) {
+  Argument* found[frame::longest_block];
+  int32_t length = 0;
+  for (int32_t k = 0; k < count; ++k) {
+    found[length] = &elements[k].y;
+    length += Bits<double>::read(&elements[k].y.hi).magnitude() >= wide;
   }
-};
+  if (length != 0) [[unlikely]]
+    reduce::by_half_pi(found, length);
+}
 
 // Finite, and not below 2^-252.
 DAKVM_INLINE bool is_ordinary(Bits<double> x) {

@@ -25,21 +25,34 @@ DAKVM_INLINE Sum two_sum(Ext a, Ext b) {
   return {head, (a - (head - b_in_head)) + (b - b_in_head)};
 }
 
-// A sum of many terms in a register, and beside it what its roundings lost.
+// A sum of many terms in a register, and beside it what its roundings lost. The head must be a
+// multiple of the last place of each term that is added: head - sum is exact then, as in
+// fast_two_sum, though the term may be the larger one.
 struct Accumulator {
   Ext head, tail;
 
   DAKVM_INLINE void add(Ext term) {
     const Ext sum = head + term;
-    const Ext term_in_sum = sum - head;
-    tail += (head - (sum - term_in_sum)) + (term - term_in_sum);
+    tail = computed(tail + (term + (head - sum)));
     head = sum;
   }
   DAKVM_INLINE void fold_tail() {
-    const Ext lost = tail;
-    tail = 0;
-    add(lost);
+    const Ext sum = head + tail;
+    tail = tail + (head - sum);
+    head = sum;
   }
+};
+
+// A register's value in two doubles, exactly. A stage hands it on at the cost of two operations;
+// storing and loading 80 bits costs more.
+struct Parts {
+  double value, rest;
+
+  DAKVM_INLINE void put(Ext whole) {
+    value = round_to_double(whole);
+    rest = narrow<double>(whole - value);
+  }
+  DAKVM_INLINE Ext whole() const { return Ext{value} + rest; }
 };
 
 // The head of few bits that Dekker's split takes from x. With a splitter 2^k + 1, or 2^k, it has

@@ -39,6 +39,14 @@ DAKVM_INLINE Ext load(const T* number) {
   return value;
 }
 
+// The value, computed here, and what it was computed from is read anew if it is needed again.
+// Compilers otherwise put off a computation to the only use of its result and keep its operands;
+// one more than the registers hold is spilled, at the cost of five operations.
+DAKVM_INLINE Ext computed(Ext value) {
+  asm("" : "+t"(value) : : "memory");
+  return value;
+}
+
 // The value as a store rounds it: for results, and for fields that a later stage loads. The value
 // passes through st(0): where the operands come from single precision, compilers would otherwise
 // carry out the whole operation in the result's type, on a unit with other flags and modes.

@@ -6,9 +6,18 @@
 
 namespace dakvm::reduce {
 
-// x is finite and |x| >= pi/4.
-DAKVM_INLINE int32_t by_half_pi(x87::Bits<double> x, ReducedArg& reduced) {
-  return gaxreduce_pio2d(x.low, x.high, &reduced);
-}
+// x = q pi/2 + hi + lo, up to multiples of 2 pi.
+struct Argument : ReducedArg {
+  uint32_t q;
+
+  DAKVM_INLINE void take(const double* x) {
+    hi = x87::narrow<double>(*x);
+    lo = 0;
+    q = 0;
+  }
+};
+
+// Reduces up to a block of numbers, each in its place: x finite, |x| >= pi/4.
+void by_half_pi(Argument* const* arguments, int32_t count);
 
 }  // namespace dakvm::reduce

@@ -49,6 +49,8 @@ struct CosTable {
 };
 static_assert(sizeof(CosTable) == 272 * sizeof(double));
 
+constexpr uint32_t wide = 0x41000000;  // 2^17
+
 // Rows from the angle of the sine to that of the cosine.
 constexpr uint32_t quarter_turn = 16;
 
@@ -78,10 +80,7 @@ struct Reduction {
   double shifted;  // its low word is N
   double n, a, m;  // N, y - N P1, N P2: doubles all of them
 
-  DAKVM_INLINE void start(const Table&, const double* x) {
-    constexpr uint32_t wide = 0x41000000;  // 2^17
-    y.take(x, wide);
-  }
+  DAKVM_INLINE void start(const Table&, const double* x) { y.take(x); }
   DAKVM_INLINE void round_to_integer(const Table& t) {
     shifted = narrow<double>(t.inv_step * Ext{y.hi} + t.shifter);
   }
@@ -96,19 +95,23 @@ struct Reduction {
     return t.rows[(16 * y.q + low_word(shifted) + turn) % 64];
   }
   DAKVM_INLINE Ext rh() const { return Ext{a} - m; }
-  DAKVM_INLINE Ext sum(const Table& t, uint32_t turn, const Terms& terms) const {
-    const Row& at = row(t, turn);
-    const Ext r = rh();
-    const Ext rlow = ((a - r) - m) - n * Ext{t.step3} + y.lo;
-    const Ext D = rlow * (at.C() - r * at.S) + at.Sl;
-    const Ext first = at.c * r;
-    const Ext A = at.S + first;
-    const Ext rest = (first + (at.S - A)) + (D + (Ext{terms.Ps} + terms.Pc));
-    const Ext second = at.Cd * r;
-    const Ext B = A + second;
-    return B + ((second + (A - B)) + rest);
+  DAKVM_INLINE Ext rlow(const Table& t, Ext r) const {
+    return ((a - r) - m) - n * Ext{t.step3} + y.lo;
   }
 };
+
+// S cos(r + rlow) + C sin(r + rlow). Each sum's error is computed at once, so that no value is
+// spilled.
+DAKVM_INLINE Ext sum(const Row& at, Ext r, Ext rlow, const Terms& terms) {
+  const Ext first = at.c * r;
+  const Ext A = at.S + first;
+  const Ext lost_in_A = computed(first + (at.S - A));
+  const Ext second = at.Cd * r;
+  const Ext B = A + second;
+  const Ext lost_in_B = computed(second + (A - B));
+  const Ext D = rlow * (at.C() - r * at.S) + at.Sl;
+  return B + (lost_in_B + (lost_in_A + (D + (Ext{terms.Ps} + terms.Pc))));
+}
 
 // Sine, or cosine with turn = quarter_turn.
 template <class Table, uint32_t turn>
@@ -122,16 +125,17 @@ struct OneResult : Reduction<Table> {
   }
   DAKVM_INLINE Ext combine(const Table& t) const {
     settle(&t);
-    return this->sum(t, turn, terms);
+    const Ext r = this->rh();
+    return sum(this->row(t, turn), r, this->rlow(t, r), terms);
   }
 
-  using Stages = frame::Pipeline<&OneResult::round_to_integer, &OneResult::subtract,
-                                 &OneResult::evaluate, &OneResult::combine>;
+  using Stages = frame::Pipeline<&trig::reduce_wide<OneResult, wide>, &OneResult::round_to_integer,
+                                 &OneResult::subtract, &OneResult::evaluate, &OneResult::combine>;
 };
 
 struct TwoResults : Reduction<SinTable> {
   Terms of_sine, of_cosine;
-  double sine;
+  double sine, cosine;
 
   DAKVM_INLINE void evaluate(const SinTable& t) {
     settle(&t);
@@ -140,18 +144,18 @@ struct TwoResults : Reduction<SinTable> {
     of_sine.set(row(t, 0), sine_part, cosine_part);
     of_cosine.set(row(t, quarter_turn), sine_part, cosine_part);
   }
-  DAKVM_INLINE void combine_sine(const SinTable& t) {
+  DAKVM_INLINE void combine(const SinTable& t) {
     settle(&t);
-    sine = narrow<double>(sum(t, 0, of_sine));
-  }
-  DAKVM_INLINE std::pair<Ext, Ext> combine_cosine(const SinTable& t) const {
+    const Ext r = rh(), low = rlow(t, r);
+    sine = narrow<double>(sum(row(t, 0), r, low, of_sine));
     settle(&t);
-    return {sine, sum(t, quarter_turn, of_cosine)};
+    cosine = narrow<double>(sum(row(t, quarter_turn), r, low, of_cosine));
   }
+  DAKVM_INLINE std::pair<Ext, Ext> results(const SinTable&) const { return {sine, cosine}; }
 
-  using Stages =
-      frame::Pipeline<&TwoResults::round_to_integer, &TwoResults::subtract, &TwoResults::evaluate,
-                      &TwoResults::combine_sine, &TwoResults::combine_cosine>;
+  using Stages = frame::Pipeline<&trig::reduce_wide<TwoResults, wide>,
+                                 &TwoResults::round_to_integer, &TwoResults::subtract,
+                                 &TwoResults::evaluate, &TwoResults::combine, &TwoResults::results>;
 };
 
 template <class Table, class ElementOf>

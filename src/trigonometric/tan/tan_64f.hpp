@@ -76,6 +76,8 @@ struct Remainder {
   }
 };
 
+constexpr uint32_t wide = 0x40c90000;  // 12800
+
 struct Element {
   trig::Argument y;
   double shifted;  // its low word is K
@@ -83,13 +85,10 @@ struct Element {
   int32_t pole_offset;  // K - K2
   Remainder r, s;
   double s_t, R, Rm;
-  double S1, S2;
-  double L;
+  Parts P;
+  double S2, L;
 
-  DAKVM_INLINE void start(const Table&, const double* x) {
-    constexpr uint32_t wide = 0x40c90000;  // 12800
-    y.take(x, wide);
-  }
+  DAKVM_INLINE void start(const Table&, const double* x) { y.take(x); }
   DAKVM_INLINE void round_to_integer(const Table& t) {
     shifted = narrow<double>(Ext{y.hi} * t.inv_step + t.shifter);
   }
@@ -107,24 +106,34 @@ struct Element {
     r.subtract_third(t.step3, y.lo);
   }
   DAKVM_INLINE void shorten(const Table& t) { t.short_mask.apply(s.hi, s_t); }
+  // The polynomial is too long a chain for one stage.
   DAKVM_INLINE void invert(const Table& t) {
+    const Row& c = row(t);
+    const Ext x = r.hi;
     R = narrow<double>(t.one / Ext{s_t});
-    S1 = narrow<double>(slope(row(t)));
+    P.put((((c.c15 * x + c.c14) * x + c.c13) * x + c.c12) * x + c.c11);
   }
-  DAKVM_INLINE void shorten_reciprocal(const Table& t) { row(t).pole_mask.apply(R, Rm); }
-  DAKVM_INLINE void add_slope(const Table& t) { S2 = narrow<double>(S1 + leading(row(t))); }
+  DAKVM_INLINE void shorten_reciprocal(const Table& t) {
+    const Row& c = row(t);
+    const Ext x = r.hi;
+    c.pole_mask.apply(R, Rm);
+    P.put(((((P.whole() * x + c.c10) * x + c.c9) * x + c.c8) * x + c.c7) * x + c.c6);
+  }
   DAKVM_INLINE void sum_tail(const Table& t) {
     settle(&t);
     const Row& c = row(t);
     const Ext x = r.hi;
-    Ext P = (((c.c15 * x + c.c14) * x + c.c13) * x + c.c12) * x + c.c11;
-    P = ((((P * x + c.c10) * x + c.c9) * x + c.c8) * x + c.c7) * x + c.c6;
-    P = x * x * ((((P * x + c.c5) * x + c.c4) * x + c.c3) * x + c.c2);
-    P = P + (c.slope1 * x - S1 + c.slope2 * x);
-    P = P + (leading(c) - S2 + S1);
+    const Ext Q = computed(x * x * ((((P.whole() * x + c.c5) * x + c.c4) * x + c.c3) * x + c.c2));
+    const Ext first = c.slope1 * x, second = c.slope2 * x;
+    const Ext S1 = round_to_double(first + second);
+    const Ext lost_in_S1 = computed(first - S1 + second);
+    const Ext leading = Ext{c.T_hi} - Rm;
+    const double sum = round_to_double(S1 + leading);
+    S2 = sum;
+    const Ext lost_in_S2 = computed(leading - sum + S1);
     const Ext E = (s.lo + (Ext{s.hi} - s_t)) * R;
-    const Ext C = (E + (Ext{s_t} * Rm - t.one)) * (Ext{c.pole_weight} * R);
-    L = narrow<double>(((P + C) + Ext{c.slope2} * r.lo) + c.T_lo);
+    const Ext C = computed((E + (Ext{s_t} * Rm - t.one)) * (Ext{c.pole_weight} * R));
+    L = narrow<double>(((Q + lost_in_S1 + lost_in_S2 + C) + Ext{c.slope2} * r.lo) + c.T_lo);
   }
   DAKVM_INLINE Ext finish(const Table& t) const {
     return S2 + Ext{round_to_double(Ext{r.lo} * row(t).slope1 + L)};
@@ -132,16 +141,14 @@ struct Element {
 
  private:
   DAKVM_INLINE const Row& row(const Table& t) const { return t.rows[j]; }
-  DAKVM_INLINE Ext slope(const Row& c) const { return c.slope1 * Ext{r.hi} + c.slope2 * Ext{r.hi}; }
-  DAKVM_INLINE Ext leading(const Row& c) const { return Ext{c.T_hi} - Rm; }
 };
 
 struct Kernel {
   using Element = tan::Element;
-  using Stages =
-      frame::Pipeline<&Element::round_to_integer, &Element::subtract_two, &Element::subtract_third,
-                      &Element::shorten, &Element::invert, &Element::shorten_reciprocal,
-                      &Element::add_slope, &Element::sum_tail, &Element::finish>;
+  using Stages = frame::Pipeline<&trig::reduce_wide<Element, wide>, &Element::round_to_integer,
+                                 &Element::subtract_two, &Element::subtract_third,
+                                 &Element::shorten, &Element::invert, &Element::shorten_reciprocal,
+                                 &Element::sum_tail, &Element::finish>;
 
   DAKVM_INLINE static bool is_ordinary(const Table&, Bits<double> x) {
     return trig::is_ordinary(x);
