@@ -66,5 +66,6 @@ install(
   COMPONENT development
   FILES_MATCHING
   PATTERN "*.md"
-  PATTERN "*.svg")
+  PATTERN "*.svg"
+  PATTERN manual EXCLUDE)
 include(${CMAKE_CURRENT_LIST_DIR}/packages.cmake)

@@ -7,11 +7,13 @@
 #                             Benchmark for both word sizes, of which Debian has the one for 32
 #                             bits only in the foreign architecture i386 (added when it is not
 #                             there); gnuplot; SLEEF
+#   scripts/setup.sh docs     that of build, and what the manual is built with
 set -euo pipefail
 
 build_packages=(cmake make g++ g++-multilib libc6-dev-i386 lib32gomp1 libcli11-dev)
 test_packages=(googletest libmpfr-dev pkg-config binutils)
 bench_packages=(libbenchmark-dev:i386 libbenchmark-dev:amd64 gnuplot-nox libsleef-dev)
+docs_packages=(doxygen help2man)
 update_tries=3
 
 fail() {
@@ -24,9 +26,10 @@ case $level in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${build_packages[@]}" "${test_packages[@]}") ;;
   bench) wanted=("${build_packages[@]}" "${bench_packages[@]}") ;;
-  *) fail "unknown level '$level'" "usage: scripts/setup.sh [build|test|bench]" ;;
+  docs) wanted=("${build_packages[@]}" "${docs_packages[@]}") ;;
+  *) fail "unknown level '$level'" "usage: scripts/setup.sh [build|test|bench|docs]" ;;
 esac
-[[ $# -le 1 ]] || fail "one level at a time" "usage: scripts/setup.sh [build|test|bench]"
+[[ $# -le 1 ]] || fail "one level at a time" "usage: scripts/setup.sh [build|test|bench|docs]"
 
 for tool in dpkg-query apt-get; do
   command -v "$tool" >/dev/null ||
