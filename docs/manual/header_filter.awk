@@ -1,5 +1,5 @@
-# What Doxygen reads in place of include/dakvmpx.h: the same comments, with their conventions written
-# as commands. A group's first paragraph is its brief description, "Domain:   ..." a paragraph with
+# What Doxygen reads in place of include/dakvmpx.h: the same comments, their conventions written as
+# commands. A group's first paragraph is its brief description, "Domain:   ..." a paragraph with
 # that title, <word> no tag; vector functions are named by type and grade.
 /^(\/\*\*| \*)/ {
   gsub(/<[A-Za-z]+>/, "\\\\&")

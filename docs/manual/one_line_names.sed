@@ -1,4 +1,4 @@
-# The section NAME of a manual page has one line: without Doxygen's second one, the brief description.
+# The section NAME of a manual page has one line; Doxygen adds the brief description, which goes.
 /^\.SH NAME/,/^\.SH SYNOPSIS/ {
   /^\.PP/d
   /^ \\- /d

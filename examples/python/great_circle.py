@@ -1,4 +1,4 @@
-"""Distances on the globe between all pairs of some cities, by the haversine formula on NumPy arrays.
+"""Distances on the globe between all pairs of some cities, by the haversine formula.
 
     PYTHONPATH=bindings/python DAKVMPX_LIBRARY=build/x86-64/libdakvmpx.so \
         python3 examples/python/great_circle.py

@@ -8,8 +8,8 @@ trap 'rm -rf "$work"' EXIT
 count=0
 for source in "$pages"/*.c; do
   # shellcheck disable=SC2086 # the compiler brings its word size
-  $compiler -std=c99 -Wall -Wextra -Wpedantic -Werror -I"$include" "$source" -L"$library" -ldakvmpx \
-    -Wl,-rpath,"$library" -o "$work/example"
+  $compiler -std=c99 -Wall -Wextra -Wpedantic -Werror -I"$include" "$source" -o "$work/example" \
+    -L"$library" -ldakvmpx -Wl,-rpath,"$library"
   "$work/example" | diff -u "${source%.c}.out" -
   count=$((count + 1))
 done

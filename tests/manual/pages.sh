@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The installed manual: every exported name, family and command has its page, and pages say what they
-# should: pages.sh CMAKE BUILD_TREE DAKVM EXPORTED_NAMES
+# The installed manual: every exported name, family and command has its page, and the pages say what
+# they should: pages.sh CMAKE BUILD_TREE DAKVM EXPORTED_NAMES
 set -euo pipefail
 cmake=$1 tree=$2 dakvm=$3 exported=$4
 prefix=$(mktemp -d)

@@ -49,7 +49,8 @@ _dakvm() {
   values=$(_dakvm_functions "$command" "$word" 2>/dev/null)
   if grep -q '^  FILE ' <<<"$help"; then
     for ((k = 2; k < COMP_CWORD; ++k)); do # the function is there already: a file is next
-      if grep -qxF -- "${COMP_WORDS[k]}" < <(_dakvm_functions "$command" "${COMP_WORDS[k]}"); then
+      if _dakvm_functions "$command" "${COMP_WORDS[k]}" 2>/dev/null |
+        grep -xF -- "${COMP_WORDS[k]}" >/dev/null; then
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
         return
       fi
