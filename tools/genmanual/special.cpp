@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstring>
 #include <limits>
+#include <set>
 #include <type_traits>
 
 namespace dakvm::manual {
@@ -142,30 +143,25 @@ template <class T>
 std::vector<Word<T>> arguments_of(const Function& f) {
   constexpr Word<T> largest = infinity<T> - 1;
   const Word<T> least_normal = word_of(std::numeric_limits<T>::min());
-  std::vector<int64_t> positions;
+  std::set<int64_t> positions;
   for (const Word<T> magnitude :
        {infinity<T>, largest, word_of(T(1)), least_normal, Word<T>(1), Word<T>(0)})
     for (const Word<T> sign : {Word<T>(0), sign_bit<T>})
-      positions.push_back(position<T>(magnitude | sign));
-  std::ranges::sort(positions);
-  const size_t count = positions.size();
-  for (size_t k = 0; k + 1 < count; ++k) {
-    const auto at = [&](int64_t p) { return evaluate<T>(f, at_position<T>(p)); };
-    for (int64_t low = positions[k];;) {
-      int64_t high = positions[k + 1];
+      positions.insert(position<T>(magnitude | sign));
+  const auto at = [&](int64_t p) { return evaluate<T>(f, at_position<T>(p)); };
+  const std::vector<int64_t> anchors(positions.begin(), positions.end());
+  for (size_t k = 0; k + 1 < anchors.size(); ++k)
+    for (int64_t low = anchors[k];;) {
+      int64_t high = anchors[k + 1];
       const Outcome<T> below = at(low);
       if (below.alike(at(high))) break;
       while (high - low > 1) {
         const int64_t middle = low + (high - low) / 2;
         (at(middle).alike(below) ? low : high) = middle;
       }
-      positions.insert(positions.end(), {low, high});
+      positions.insert({low, high});
       low = high;
     }
-  }
-  std::ranges::sort(positions);
-  const auto repeated = std::ranges::unique(positions);
-  positions.erase(repeated.begin(), repeated.end());
   std::vector<Word<T>> words;
   for (const int64_t p : positions) words.push_back(at_position<T>(p));
   constexpr Word<T> quiet_bit = Word<T>(1) << (std::numeric_limits<T>::digits - 2);
