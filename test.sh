@@ -1,16 +1,21 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the library for 32 and for 64 bits, and runs all tests of both.
+# With --full also the golden hashes from every compiler and level, and on an emulated processor
+# without SSE (scripts/golden-matrix.sh): half an hour more.
 set -euo pipefail
 cd "$(dirname "$0")"
 
-[[ $# -eq 0 ]] || { echo "test.sh takes no arguments; for single tests use ctest --preset" >&2; exit 2; }
+[[ $# -eq 0 || $* == --full ]] ||
+  { echo "usage: ./test.sh [--full]; for single tests use ctest --preset" >&2; exit 2; }
+full=${1:-}
 
-scripts/setup.sh test
+scripts/setup.sh "$([[ -z $full ]] && echo test || echo full)"
 presets=(release x86-64)
 for preset in "${presets[@]}"; do
   cmake --preset "$preset"
   cmake --build --preset "$preset" -j "$(nproc)"
 done
+[[ -z $full ]] || scripts/golden-matrix.sh --strict
 for preset in "${presets[@]}"; do
   ctest --preset "$preset" --no-tests=error -j "$(nproc)"
 done

@@ -66,6 +66,7 @@ install(
   COMPONENT development
   FILES_MATCHING
   PATTERN "*.md"
+  PATTERN "*.json"
   PATTERN "*.svg"
   PATTERN manual EXCLUDE)
 include(${CMAKE_CURRENT_LIST_DIR}/packages.cmake)

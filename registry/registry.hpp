@@ -7,22 +7,9 @@
 #include <variant>
 
 #include "dakvmpx.h"
+#include "registry/families.hpp"
 
 namespace dakvm::registry {
-
-enum class Form { one_input, two_inputs, scalar_exponent, two_outputs };
-enum class Type { f64, f32 };
-
-struct Family {
-  std::string_view name;
-  Form form;
-  std::string_view formula;
-  std::string_view domain;
-  double low, high;  // ordinary arguments
-
-  constexpr int sources() const { return form == Form::two_inputs ? 2 : 1; }
-  constexpr int destinations() const { return form == Form::two_outputs ? 2 : 1; }
-};
 
 // What a call needs; members that the form does not have are ignored.
 template <class T>
@@ -79,13 +66,6 @@ struct Function {
     return std::visit([&](auto f) { return invoke<T>(f, operands, len); },
                       std::get<Entry<T>>(entry));
   }
-};
-
-inline const Family families[] = {
-#define DAKVM_FAMILY(name, form, formula, domain, low, high) \
-  {#name, Form::form, formula, domain, low, high},
-#include "registry/families.def"
-#undef DAKVM_FAMILY
 };
 
 // The five functions of each family, in the order of the families.

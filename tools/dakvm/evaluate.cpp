@@ -138,12 +138,12 @@ void evaluate_as(const registry::Function& function, const EvalOptions& options,
   }
 
   Evaluator<T> evaluator(function, exponent, summary);
-  Progress progress(file, options.output == "-");
+  Progress progress(options.output == "-");
   Block<T> block;
   for (input->read(block); block.count > 0; input->read(block)) {
     evaluator.run(block);
     output->write(block);
-    progress.update(summary.elements);
+    progress.update(file.position(), file.size(), std::to_string(summary.elements) + " elements");
   }
   if (summary.elements == 0 && summary.bad.count == 0)
     throw Error(Exit::empty, file.name() + ": the input has no elements");

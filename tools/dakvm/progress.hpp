@@ -3,27 +3,28 @@
 
 #include <chrono>
 #include <cstdint>
-
-#include "file_io.hpp"
+#include <optional>
+#include <string>
 
 namespace dakvm::tool {
 
 class Progress {
  public:
   // Silent when standard error is no terminal, or results go to the terminal too.
-  Progress(const InputFile& file, bool results_on_stdout);
+  explicit Progress(bool results_on_stdout);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  void update(uint64_t elements);
+  // A bar and the time left where the total is known, and the text.
+  void update(uint64_t done, std::optional<uint64_t> total, const std::string& text);
 
  private:
   using Clock = std::chrono::steady_clock;
 
-  const InputFile& file_;
   bool enabled_, drawn_ = false;
-  Clock::time_point next_;
+  Clock::time_point start_, next_;
+  std::optional<uint64_t> first_;  // done before this run began to count
 };
 
 }  // namespace dakvm::tool

@@ -124,6 +124,7 @@ struct Large {
   }
   DAKVM_INLINE void start_series(const Table& t) { root.start_series(t, root.low()); }
   DAKVM_INLINE void start_polynomial(const Table& t) {
+    const Ext w = this->w;
     inner = narrow<double>(
         (((((((t.r11 * w + t.r10) * w + t.r9) * w + t.r8) * w + t.r7) * w + t.r6) * w + t.r5) * w +
          t.r4) *
@@ -138,6 +139,7 @@ struct Large {
     return s * q;
   }
   DAKVM_INLINE Ext rest(const Table& t) const {
+    const Ext w = this->w;
     const Ext R = ((inner * w + t.r2) * w + t.r1) * w + t.r0;
     const Ext Q_tail =
         (leading(t) - (Ext{Q} - t.l0_hi)) + (t.l0_lo + w * (t.l1_lo + w * (t.l2_lo + w * R)));
@@ -314,8 +316,11 @@ struct AsinKernel {
     } else {
       Signed<T> result;
       result.keep_sign(src);
-      result.magnitude = narrow<T>(y < t.least_normal ? y + round_to_double(y * y)
-                                                      : round_to_double(t.one + y) * y);
+      // The square raises underflow: opaque keeps it out of the other case.
+      if (y < t.least_normal)
+        result.magnitude = narrow<T>(y + round_to_double(y * opaque(y)));
+      else
+        result.magnitude = narrow<T>(round_to_double(t.one + y) * y);
       settle(&result);
       *dst = narrow<T>(result.value());
     }
