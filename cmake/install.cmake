@@ -67,5 +67,6 @@ install(
   FILES_MATCHING
   PATTERN "*.md"
   PATTERN "*.json"
-  PATTERN "*.svg")
+  PATTERN "*.svg"
+  PATTERN manual EXCLUDE)
 include(${CMAKE_CURRENT_LIST_DIR}/packages.cmake)

@@ -1,4 +1,5 @@
-# Debian packages, one for each component: `cpack --preset i386` or `cpack --preset amd64`.
+# Debian packages, one for each component: `cpack --preset i386` or `cpack --preset amd64`. Their
+# manual needs `scripts/setup.sh docs`.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dakvmpx)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
@@ -28,7 +29,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libdakvmpx-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libdakvmpx4 ${same_version}")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
-    "Headers for C, C++20 and Fortran, the static archive, CMake and pkg-config files, documents.")
+    "Headers for C, C++20 and Fortran, the static archive, CMake and pkg-config files, the manual.")
 if(TARGET dakvm)
   list(APPEND CPACK_COMPONENTS_ALL tools)
   set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME dakvm)

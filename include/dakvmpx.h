@@ -1,30 +1,31 @@
-/* libdakvmpx: vectorised elementary functions for 32-bit x86, computed on the x87 unit.
+/** \defgroup dakvmpx libdakvmpx: vectorised elementary functions
+ * For 32-bit x86, computed on the x87 unit.
  *
  * Every vector function daks<Func>_<type>_<grade> applies one function element by element:
  *
- *   type   64f: double (IEEE binary64)        grades A50, A53 (about 50 and 53 correct bits)
- *          32f: float  (IEEE binary32)        grades A11, A21, A24
+ *     type   64f: double (IEEE binary64)        grades A50, A53 (about 50 and 53 correct bits)
+ *            32f: float  (IEEE binary32)        grades A11, A21, A24
  *
  * What holds for all of them:
  *
- *   Arguments   source array(s), destination array(s), then the number of elements, which every
- *               array has. Source and destination may be one array, or overlap in any way: elements
- *               are done one by one in increasing index order, arguments read before the result is
- *               stored. No alignment is asked for, nothing outside [0, len) is read or written.
- *   Status      negative: an error, nothing was read or written. DAKVM_STATUS_SIZE_ERR is tested
- *               first, then the pointers in argument order. Otherwise every element has its result,
- *               and the status is that of the last exceptional element, or DAKVM_STATUS_OK. Which
- *               elements are exceptional is said with each function; NaN arguments give NaN results
- *               and are not exceptional.
- *   Flags       every exceptional element raises its IEEE flag: domain invalid, singularity
- *               divide-by-zero, overflow and underflow themselves (with inexact). Results raise
- *               what their arithmetic raises. Unmasked exceptions trap.
- *   Rounding    computed in the caller's x87 precision and rounding mode; the figures below are for
- *               64-bit precision and rounding to nearest, the usual setting of Linux. The control
- *               word is left as it was. Errors are in ulp of the result type; the figures are
- *               measured against MPFR, docs/accuracy.md tells how.
- *   Threads     no state, no allocation, no writable data: any number of threads at once, on
- *               separate destination arrays. Flags belong to the calling thread.
+ * Arguments: source array(s), destination array(s), then the number of elements, which every array
+ *           has. Source and destination may be one array, or overlap in any way: elements are done
+ *           one by one in increasing index order, arguments read before the result is stored. No
+ *           alignment is asked for, nothing outside [0, len) is read or written.
+ * Status:   negative: an error, nothing was read or written. DAKVM_STATUS_SIZE_ERR is tested first,
+ *           then the pointers in argument order. Otherwise every element has its result, and the
+ *           status is that of the last exceptional element, or DAKVM_STATUS_OK. Which elements are
+ *           exceptional is said with each function; NaN arguments give NaN results and are not
+ *           exceptional.
+ * Flags:    every exceptional element raises its IEEE flag: domain invalid, singularity
+ *           divide-by-zero, overflow and underflow themselves (with inexact). Results raise what
+ *           their arithmetic raises. Unmasked exceptions trap.
+ * Rounding: computed in the caller's x87 precision and rounding mode; the figures below are for
+ *           64-bit precision and rounding to nearest, the usual setting of Linux. The control word
+ *           is left as it was. Errors are in ulp of the result type; the figures are measured
+ *           against MPFR, docs/accuracy.md tells how.
+ * Threads:  no state, no allocation, no writable data: any number of threads at once, on separate
+ *           destination arrays. Flags belong to the calling thread.
  *
  * Where the grades of a type share an algorithm, they return the same bits.
  */
@@ -36,6 +37,9 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/** \addtogroup dakvmpx
+ * @{ */
 
 typedef double dakvm64f; /**< element type 64f, IEEE binary64 */
 typedef float dakvm32f;  /**< element type 32f, IEEE binary32 */
@@ -69,7 +73,9 @@ const LibraryVersion* dakvmGetLibVersion(void);
 /** The processor-specific code that is in use: always 0, there is only one. */
 int32_t dll_cpu_version(void);
 
-/** \name Division
+/** @} */
+
+/** \defgroup daksDiv Division
  * dst[i] = src1[i] / src2[i], in one division of the x87 unit.
  *
  * Domain:   all numbers. A zero divisor under a finite dividend is DAKVM_STATUS_SINGULARITY, 0/0
@@ -87,7 +93,7 @@ int32_t daksDiv_32f_A21(const float* src1, const float* src2, float* dst, int32_
 int32_t daksDiv_32f_A24(const float* src1, const float* src2, float* dst, int32_t len);
 /** @} */
 
-/** \name Reciprocal
+/** \defgroup daksInv Reciprocal
  * dst[i] = 1 / src[i], in one division of the x87 unit.
  *
  * Domain:   all numbers. Zero is DAKVM_STATUS_SINGULARITY, the result the signed infinity. The
@@ -102,7 +108,7 @@ int32_t daksInv_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksInv_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Square root
+/** \defgroup daksSqrt Square root
  * dst[i] = sqrt(src[i]): a reciprocal root from a table, three coupled Newton steps, and a
  * correction by the exact residual.
  *
@@ -119,7 +125,7 @@ int32_t daksSqrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksSqrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Inverse square root
+/** \defgroup daksInvSqrt Inverse square root
  * dst[i] = 1 / sqrt(src[i]): a short value from a table, corrected in one step by a series in its
  * exact residual.
  *
@@ -135,7 +141,7 @@ int32_t daksInvSqrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksInvSqrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Cube root
+/** \defgroup daksCbrt Cube root
  * dst[i] = cbrt(src[i]): a table of 32 short reciprocal cube roots, the binomial series of the
  * residual. Odd bit for bit in the rounding mode to nearest.
  *
@@ -149,7 +155,7 @@ int32_t daksCbrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksCbrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Inverse cube root
+/** \defgroup daksInvCbrt Inverse cube root
  * dst[i] = 1 / cbrt(src[i]): a table of 97 short reciprocal cube roots and a polynomial of the
  * residual. Odd bit for bit in the rounding mode to nearest.
  *
@@ -164,7 +170,7 @@ int32_t daksInvCbrt_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksInvCbrt_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Exponential
+/** \defgroup daksExp Exponential
  * dst[i] = e^src[i]: reduction by ln2/64, a table of 2^(j/64), a polynomial.
  *
  * Domain:   all numbers. Above the logarithm of the largest number (709.78..., 32f 88.72...)
@@ -182,7 +188,7 @@ int32_t daksExp_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksExp_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Natural logarithm
+/** \defgroup daksLn Natural logarithm
  * dst[i] = ln(src[i]). A50: the mantissa in [sqrt(1/2), sqrt(2)), a series for artanh. Others: a
  * table of 65 short reciprocals and their logarithms, a polynomial; near 1 the polynomial alone.
  *
@@ -199,7 +205,7 @@ int32_t daksLn_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksLn_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Decimal logarithm
+/** \defgroup daksLog10 Decimal logarithm
  * dst[i] = log10(src[i]): as the natural logarithm, with log10(2) for ln 2; powers of ten give
  * whole numbers.
  *
@@ -215,7 +221,7 @@ int32_t daksLog10_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksLog10_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Power
+/** \defgroup daksPow Power
  * dst[i] = src1[i] ^ src2[i]. 64f: log2 in two parts through three table reductions, an exactly split
  * product, a table of 2^(j/128) and a polynomial. 32f: the same identity in extended precision.
  *
@@ -236,7 +242,7 @@ int32_t daksPow_32f_A21(const float* src1, const float* src2, float* dst, int32_
 int32_t daksPow_32f_A24(const float* src1, const float* src2, float* dst, int32_t len);
 /** @} */
 
-/** \name Power with one exponent
+/** \defgroup daksPowx Power with one exponent
  * dst[i] = src[i] ^ exponent: bit for bit the results, statuses and flags of the function above with
  * the exponent repeated. A notification of an exceptional element gets the source array twice.
  * @{ */
@@ -247,7 +253,7 @@ int32_t daksPowx_32f_A21(const float* src, float exponent, float* dst, int32_t l
 int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t len);
 /** @} */
 
-/** \name Hyperbolic sine
+/** \defgroup daksSinh Hyperbolic sine
  * dst[i] = sinh(src[i]): e^|x| and e^-|x| from one reduction by ln2/64 and one table of 2^(j/64),
  * combined with the even and odd part of a polynomial; near zero a series.
  *
@@ -265,7 +271,7 @@ int32_t daksSinh_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksSinh_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Hyperbolic cosine
+/** \defgroup daksCosh Hyperbolic cosine
  * dst[i] = cosh(src[i]), computed as the hyperbolic sine.
  *
  * Domain:   all numbers. From |x| = 710.4758... (32f 89.41599) on DAKVM_STATUS_OVERFLOW, the result
@@ -281,7 +287,7 @@ int32_t daksCosh_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksCosh_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Hyperbolic tangent
+/** \defgroup daksTanh Hyperbolic tangent
  * dst[i] = tanh(src[i]): 29 polynomials on quarters of a binade, their leading terms in two parts;
  * below 1/8 an odd polynomial. No exponential, no division.
  *
@@ -297,7 +303,7 @@ int32_t daksTanh_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksTanh_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Error function
+/** \defgroup daksErf Error function
  * dst[i] = erf(src[i]), computed on |x|, with the sign at the end: 22 intervals up to 5.92, in each of
  * them a polynomial of degree 14 with its first three coefficients in two parts; below 1/8 an odd
  * polynomial.
@@ -314,7 +320,7 @@ int32_t daksErf_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksErf_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Complementary error function
+/** \defgroup daksErfc Complementary error function
  * dst[i] = 1 - erf(src[i]): for |x| a polynomial of degree 15 in 20 intervals, with its first six
  * coefficients in two parts, from 1.83 on times e^(-x^2) from a table of 2^(j/64); for negative x its
  * difference from 2.
@@ -332,7 +338,7 @@ int32_t daksErfc_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksErfc_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Arc tangent
+/** \defgroup daksAtan Arc tangent
  * dst[i] = atan(src[i]), in [-pi/2, pi/2]. 64f: a table of angles at two breakpoints in each binade,
  * the reduced argument in two doubles, a polynomial. 32f: four intervals and a short polynomial, in
  * extended precision.
@@ -350,7 +356,7 @@ int32_t daksAtan_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksAtan_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Arc tangent of two arguments
+/** \defgroup daksAtan2 Arc tangent of two arguments
  * dst[i] is the angle of the point with the ordinate a = src1[i] and the abscissa b = src2[i], in
  * [-pi, pi]: the table of the arc tangent, the reduced argument formed without the quotient.
  *
@@ -366,7 +372,7 @@ int32_t daksAtan2_32f_A21(const float* src1, const float* src2, float* dst, int3
 int32_t daksAtan2_32f_A24(const float* src1, const float* src2, float* dst, int32_t len);
 /** @} */
 
-/** \name Arc sine
+/** \defgroup daksAsin Arc sine
  * dst[i] = arcsin(src[i]), in radians, in [-pi/2, pi/2]: below 1/2 a polynomial; above, pi/2 less
  * twice the arc sine of sqrt((1 - |x|)/2), the root from a table of 513 short reciprocal roots. Odd
  * bit for bit, in every rounding mode.
@@ -383,7 +389,7 @@ int32_t daksAsin_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksAsin_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Arc cosine
+/** \defgroup daksAcos Arc cosine
  * dst[i] = arccos(src[i]), in radians, in [0, pi]: by the arc sine of the family above.
  *
  * Domain:   [-1, 1], as for the arc sine. At 1 the result is +0; at other arguments inexact is
@@ -397,7 +403,7 @@ int32_t daksAcos_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksAcos_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Inverse hyperbolic sine
+/** \defgroup daksAsinh Inverse hyperbolic sine
  * dst[i] = arsinh(src[i]). From 1/8 on the logarithm of |x| + sqrt(x^2 + 1) in two parts, by a table
  * of 513 short reciprocal roots and one of 65 short reciprocals; from 2^28 on that of 2 |x|; below
  * 1/8 a polynomial. 32f: the same algorithm, rounded once. Odd bit for bit, in every rounding mode.
@@ -414,7 +420,7 @@ int32_t daksAsinh_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksAsinh_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Inverse hyperbolic cosine
+/** \defgroup daksAcosh Inverse hyperbolic cosine
  * dst[i] = arcosh(src[i]). From 1.0625 on the logarithm of x + sqrt(x^2 - 1), from 2^28 on that of
  * 2 x, as for the sine; below 1.0625 the root of 2 (x - 1) and a polynomial. 32f: the same algorithm,
  * rounded once.
@@ -431,7 +437,7 @@ int32_t daksAcosh_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksAcosh_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Inverse hyperbolic tangent
+/** \defgroup daksAtanh Inverse hyperbolic tangent
  * dst[i] = artanh(src[i]). 64f: from 1/16 on the logarithm of (1 + |x|)/(1 - |x|), formed in two
  * parts, by a table of 65 short reciprocals; below, a polynomial. 32f: the logarithm of
  * 2/(1 - |x|) - 1 by 256 cubics. Odd bit for bit, in every rounding mode.
@@ -450,7 +456,7 @@ int32_t daksAtanh_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksAtanh_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Sine
+/** \defgroup daksSin Sine
  * dst[i] = sin(src[i]), src in radians. 64f: reduction by pi/32, from 2^17 on by pi/2 first; a table of
  * 64 sines and cosines, Taylor polynomials. 32f: reduction by pi, a polynomial; above 1000000 the
  * double algorithm in 53-bit precision.
@@ -469,7 +475,7 @@ int32_t daksSin_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksSin_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Cosine
+/** \defgroup daksCos Cosine
  * dst[i] = cos(src[i]), src in radians: as the sine, 32f from 500000 on with the double algorithm.
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. cos(-x) = cos(x).
@@ -484,7 +490,7 @@ int32_t daksCos_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksCos_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
 
-/** \name Sine and cosine
+/** \defgroup daksSinCos Sine and cosine
  * dst1[i] = sin(src[i]), dst2[i] = cos(src[i]): one reduction for both. 64f: bit for bit the results of
  * the two functions above.
  *
@@ -500,7 +506,7 @@ int32_t daksSinCos_32f_A21(const float* src, float* dst1, float* dst2, int32_t l
 int32_t daksSinCos_32f_A24(const float* src, float* dst1, float* dst2, int32_t len);
 /** @} */
 
-/** \name Tangent
+/** \defgroup daksTan Tangent
  * dst[i] = tan(src[i]), src in radians. 64f: reduction by pi/32, from 12800 on by pi/2 first; a table of
  * 32 expansions, those around a pole of what is left of tan(x) without it; the pole is one division.
  * 32f: reduction by pi/2, a quotient; above 128000 the double algorithm in 53-bit precision.
@@ -518,6 +524,11 @@ int32_t daksTan_32f_A11(const float* src, float* dst, int32_t len);
 int32_t daksTan_32f_A21(const float* src, float* dst, int32_t len);
 int32_t daksTan_32f_A24(const float* src, float* dst, int32_t len);
 /** @} */
+
+/** \defgroup dakvmpx_scalar Scalar entries
+ * Functions of one element, the reduction that they share, and the notification of exceptional
+ * elements.
+ * @{ */
 
 /** An argument less a multiple of pi/2, as the unevaluated sum of two numbers: hi has the leading
  * 53 bits, lo what follows them. */
@@ -615,6 +626,8 @@ void gaxdError(int32_t code, int32_t index, const double* src1, const double* sr
                double* dst2, const char* name);
 void gaxsError(int32_t code, int32_t index, const float* src1, const float* src2, float* dst1,
                float* dst2, const char* name);
+
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -9,6 +9,7 @@
 #                             Benchmark for both word sizes, of which Debian has the one for 32
 #                             bits only in the foreign architecture i386 (added when it is not
 #                             there); gnuplot; SLEEF
+#   scripts/setup.sh docs     that of build, and what the manual is built with
 set -euo pipefail
 
 build_packages=(cmake make g++ g++-multilib libc6-dev-i386 lib32gomp1 libcli11-dev)
@@ -16,6 +17,7 @@ test_packages=(googletest libmpfr-dev nlohmann-json3-dev pkg-config binutils)
 full_packages=(clang qemu-user gappa)
 accuracy_packages=(gnuplot-nox)
 bench_packages=(libbenchmark-dev:i386 libbenchmark-dev:amd64 gnuplot-nox libsleef-dev)
+docs_packages=(doxygen help2man)
 update_tries=3
 
 fail() {
@@ -23,6 +25,7 @@ fail() {
   exit 1
 }
 
+usage="usage: scripts/setup.sh [build|test|full|accuracy|bench|docs]"
 level=${1:-build}
 case $level in
   build) wanted=("${build_packages[@]}") ;;
@@ -30,9 +33,10 @@ case $level in
   full) wanted=("${build_packages[@]}" "${test_packages[@]}" "${full_packages[@]}") ;;
   accuracy) wanted=("${build_packages[@]}" "${test_packages[@]}" "${accuracy_packages[@]}") ;;
   bench) wanted=("${build_packages[@]}" "${bench_packages[@]}") ;;
-  *) fail "unknown level '$level'" "usage: scripts/setup.sh [build|test|full|accuracy|bench]" ;;
+  docs) wanted=("${build_packages[@]}" "${docs_packages[@]}") ;;
+  *) fail "unknown level '$level'" "$usage" ;;
 esac
-[[ $# -le 1 ]] || fail "one level at a time" "usage: scripts/setup.sh [build|test|full|accuracy|bench]"
+[[ $# -le 1 ]] || fail "one level at a time" "$usage"
 
 for tool in dpkg-query apt-get; do
   command -v "$tool" >/dev/null ||

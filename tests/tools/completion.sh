@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# What bash offers for command lines: completion.sh SCRIPT DAKVM
+set -euo pipefail
+# shellcheck source=/dev/null
+source "$1"
+dakvm=$2
+dir=$(mktemp -d)
+trap 'rm -rf "$dir"' EXIT
+cd "$dir"
+touch Exports.txt
+status=0
+
+expect() { # what is offered, then the words of the line, the last one unfinished
+  local offered=$1
+  shift
+  COMP_WORDS=("$dakvm" "$@")
+  COMP_CWORD=$#
+  _dakvm "$dakvm" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+  if [[ ${COMPREPLY[*]-} != "$offered" ]]; then
+    echo "dakvm $*: offered '${COMPREPLY[*]-}' in place of '$offered'" >&2
+    status=1
+  fi
+}
+expect eval e
+expect Exp eval Ex
+expect "Sinh Sin SinCos" eval Sin
+expect "Ln Log10" eval L
+expect "daksExp_64f_A50 daksExp_64f_A53" eval daksExp_6
+expect Exp eval --csv Ex
+expect Exports.txt eval Exp Ex
+expect Exports.txt eval Exp --csv Ex
+expect Exports.txt eval Exp -o Ex
+expect "A50 A53" eval Exp --grade A5
+expect 64f eval Exp --type 6
+expect "stop skip" eval Exp --on-error s
+expect "--no-header --name" eval Exp --n
+expect --json list --j
+expect "" list x
+exit $status
