@@ -360,9 +360,13 @@ std::string with_figures(const std::string& header, const Json& records) {
     size_t end = i + 1;
     while (end < lines.size() && lines[end].starts_with(continued)) ++end;
     std::string family;
-    for (size_t k = end; k < lines.size() && family.empty(); ++k)
-      if (const auto at = lines[k].find(" daks"); at != std::string::npos)
-        family = lines[k].substr(at + 5, lines[k].find('_', at) - at - 5);
+    constexpr std::string_view prototype = "int32_t daks";
+    for (size_t k = end; k < lines.size() && family.empty(); ++k) {
+      if (lines[k].find("@}") != std::string::npos) break;  // a group of other entries
+      if (lines[k].starts_with(prototype))
+        family = lines[k].substr(prototype.size(),
+                                 lines[k].find('_', prototype.size()) - prototype.size());
+    }
     const std::string figures = family_figures(records, family);
     if (figures.empty()) {
       for (; i < end; ++i) result += lines[i] + "\n";
