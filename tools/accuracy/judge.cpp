@@ -207,7 +207,11 @@ Expectation Judge::expectation(const Word<T> (&in)[2], T nearest) const {
       e.out_of_numbers<T>(DAKVM_STATUS_UNDERFLOW, function_.traits->underflow,
                           1 - std::fabs(mpfr_get_d(work_, MPFR_RNDN)));
     } else if (std::fabs(nearest) < std::numeric_limits<T>::min()) {
-      if (mpfr_cmp_d(exact_, nearest) != 0) e.flags = underflow;
+      mpfr_sub_d(work_, exact_, nearest, MPFR_RNDN);
+      if (!mpfr_zero_p(work_)) e.flags = underflow;
+      // 64 bits in the register may be a subnormal number already, which its store does not round.
+      if (!mpfr_zero_p(work_) && mpfr_get_exp(work_) < mpfr_get_exp(exact_) - 62)
+        e.judged &= static_cast<uint8_t>(~underflow);
     } else if (std::fabs(nearest) == std::numeric_limits<T>::min()) {
       e.judged &= static_cast<uint8_t>(~underflow);
     }
