@@ -207,9 +207,11 @@ Expectation Judge::expectation(const Word<T> (&in)[2], T nearest) const {
       e.out_of_numbers<T>(DAKVM_STATUS_UNDERFLOW, function_.traits->underflow,
                           1 - std::fabs(mpfr_get_d(work_, MPFR_RNDN)));
     } else if (std::fabs(nearest) < std::numeric_limits<T>::min()) {
-      if (mpfr_cmp_d(exact_, nearest) != 0)
-        e.flags = underflow;
-      else if (was_rounded_)  // the sine of a subnormal number: inexact far behind its last bit
+      mpfr_sub_d(work_, exact_, nearest, MPFR_RNDN);
+      const bool differs = mpfr_zero_p(work_) == 0;
+      if (differs) e.flags = underflow;
+      // 64 bits in the register may be a subnormal number already, which its store does not round.
+      if (differs ? mpfr_get_exp(work_) < mpfr_get_exp(exact_) - 62 : was_rounded_)
         e.judged &= static_cast<uint8_t>(~underflow);
     } else if (std::fabs(nearest) == std::numeric_limits<T>::min()) {
       e.judged &= static_cast<uint8_t>(~underflow);

@@ -14,7 +14,7 @@
 //            with it -h^2 - N step_hi, h the head of y.
 // Error      Fits 2^-69.7 or less, in row 5 2^-64.3; tails 2^-80, q in a register 2^-71.5; the
 //            rounding of 64 bits before the store, for subnormal results too. Largest seen
-//            0.5004 ulp.
+//            0.5005 ulp.
 // Special    NaN, infinities, |x| < 2^-70, results 2 (x <= -5.86...), subnormal results
 //            (x >= 26.54...), underflow (x >= 27.22..., 32f 10.05...): apply.
 // Source     P. T. P. Tang, ACM TOMS 15 (1989) 144-157, for the exponential. Rows:
