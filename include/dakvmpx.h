@@ -452,7 +452,7 @@ int32_t daksAcosh_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   [-1, 1]. -1 and 1 are DAKVM_STATUS_SINGULARITY, the result -Inf or +Inf. Other numbers,
  *           infinities included, are DAKVM_STATUS_DOMAIN, the result NaN (32f: 0x7FFFFFFF with the
- *           argument's sign). A NaN comes back quiet, in 32f with the bits it had.
+ *           argument's sign). A NaN comes back quiet; in 32f with all its bits.
  * Accuracy: 64f 0.50151 ulp, 99.970 % correctly rounded; 32f 0.73453 ulp, 90.023 % correctly
  *           rounded.
  * Source:   P. T. P. Tang, ACM TOMS 16 (1990) 378-400, for the table of the logarithm.
