@@ -23,8 +23,8 @@ best() { # the most accurate grade of one type, every family
 # Speed
 
 Written by `bench/publish.sh`; what the columns mean is in [bench/README.md](../bench/README.md).
-Ratios above 1 mean that the library is faster. The A50 and A53 functions are shown apart where
-their code differs; A11, A21 and A24 are the same code as far as this machine can tell.
+Ratios above 1 mean that the library is faster. Of single precision one grade is shown: A11, A21 and
+A24 of a family return the same bits by the same code.
 
 HEAD
   echo '```'

@@ -1,7 +1,7 @@
 # Installation: component runtime is the shared library, component development all that is needed to
 # build against it, with CMake (package dakvmpx) or with pkg-config (dakvmpx.pc). Both find their
 # files relative to themselves, so the installed tree can be staged, moved and packaged. Component
-# tools is the commands, python the module for NumPy.
+# tools is the command dakvm, accuracy the command that measures, python the module for NumPy.
 include(CMakePackageConfigHelpers)
 
 install(

@@ -2,8 +2,7 @@
 // an element: the kernels that need a root run these stages between their own.
 //
 // Method     z = v 2^(2k), v in [1, 4). With T the table's 1/sqrt(v) at the nearest of 256 points
-// in
-//            each binade, and e = v T^2 - 1,
+//            in each binade, and e = v T^2 - 1,
 //                sqrt(v) = v T (1 + e)^(-1/2) = v T + v T g,  |e| <= 2^-8.59
 //            where g = e (G0 + ... + G6 e^6) is the binomial series without its 1.
 // Exactness  T has 11 fractional bits. v = vh + vl with 31 and 22 bits, so vh T^2 - 1, vl T^2 and

@@ -18,13 +18,6 @@ DAKVM_INLINE Sum fast_two_sum(Ext a, Ext b) {
   return {head, b + (a - head)};
 }
 
-// a + b in any order. Source: D. E. Knuth, The Art of Computer Programming 2, 4.2.2, theorem B.
-DAKVM_INLINE Sum two_sum(Ext a, Ext b) {
-  const double head = round_to_double(a + b);
-  const Ext b_in_head = head - a;
-  return {head, (a - (head - b_in_head)) + (b - b_in_head)};
-}
-
 // A sum of many terms in a register, and beside it what its roundings lost. The head must be a
 // multiple of the last place of each term that is added: head - sum is exact then, as in
 // fast_two_sum, though the term may be the larger one.

@@ -1,18 +1,15 @@
 // cbrt(x) for one element; every grade and both types share this file.
 //
-// Method     |x| = m 2^(3q + r), m in [1, 2). With T the table's m^(-1/3) at the first number of
-// m's
-//            32nd of the binade and e = 1 - m T^3,
+// Method     |x| = m 2^(3q + r), m in [1, 2). With T the table's m^(-1/3) at the first number of the
+//            32nd of the binade that m is in, and e = 1 - m T^3,
 //                cbrt(m) = m T^2 (1 - e)^(-2/3) = m T^2 (1 + G),  -2^-5 < e < 2^-6.18
 //            where G = e (c1 + c2 e + ... + c12 e^11) is the binomial series without its 1. The
 //            result is cbrt(m) 2^(r/3) 2^q, where 2^(r/3) has two parts.
-// Exactness  T has 8 bits. m = mh + ml with 10 and 43 bits, so a = mh T^2 has 26 bits and b = ml
-// T^2
-//            59; 1 - a T is exact as well. 2^(r/3) has 26 bits in its first part, so the result is
-//            an exact product a 2^(r/3) and a rest that is 25 times smaller.
+// Exactness  T has 8 bits. m = mh + ml with 10 and 43 bits, so a = mh T^2 has 26 bits and
+//            b = ml T^2 59; 1 - a T is exact as well. 2^(r/3) has 26 bits in its first part, so the
+//            result is an exact product a 2^(r/3) and a rest that is 25 times smaller.
 // Error      rest 2^-67, series 2^-64.6 at worst; then one rounding of 64 bits before the store:
-// below 0.5007
-//            ulp in double precision.
+//            below 0.5007 ulp in double precision.
 // Special    Zeros, subnormal numbers, infinities, NaN: apply.
 // Source     Table: tools/gentables/cbrt.cpp.
 #pragma once

@@ -9,8 +9,7 @@
 //            S1, S2, L0, L1 and L2 are sums of two doubles.
 //            Each difference is c - (hi + lo): V = c_hi - hi rounded to double, then
 //                ((c_hi - V) - hi) + (c_lo - lo) + V,  only the last sum being rounded for good.
-// Exactness  hi is a double, so (c_hi - V) - hi is exact. w is exact. Root and polynomial are cut
-// to
+// Exactness  hi is a double, so (c_hi - V) - hi is exact. w is exact. Root and polynomial are cut to
 //            26 bits, so that hi of P is their exact product.
 // Error      Small: sums of first order are at most 0.05 x and kept in 64 bits, 2^-67; polynomial
 //            2^-63.6. Large: tails 2^-69, polynomial 2^-63.1 of P, which is 2^-62.1 of the

@@ -4,9 +4,8 @@
 //                atan(y) = hi + t + (t s P(s) + lo),  t = u/(1 + y c),  u = y - c
 //            and t in two doubles: 1/D of the denominator's first 26 bits, corrected by one step.
 // Exactness  u and y c are exact, and so is what 1 + y c loses when it is rounded twice, to q and
-// to
-//            D: (y c - q) + ((q - D) + 1). The splits leave 26 bits, so D_hi r_hi and r_hi u_hi are
-//            exact.
+//            to D: (y c - q) + ((q - D) + 1). The splits leave 26 bits, so D_hi r_hi and r_hi u_hi
+//            are exact.
 // Error      t is off by 2^-78 of itself, registers 2^-64: below 1/8 the polynomial decides, 0.5023
 //            ulp.
 // Special    NaN, infinities, |x| >= 2^54, |x| < 2^-53: apply.

@@ -8,11 +8,9 @@
 // Exactness  The head of pi has 35 bits and |N| < 2^20: N head and its sum with x are exact, r is
 //            off by 2^-66.
 // Error      The polynomials, which have 26 bits (sine and cosine), 25 and 28 (both), and the
-// store:
-//            0.801 ulp, both 0.563 ulp.
+//            store: 0.801 ulp, both 0.563 ulp.
 // Special    Above 10^6 (cosine 5 10^5), infinities and NaN: the scalar kernels. For SinCos zeros
-// as
-//            well: its polynomial would lose the sign.
+//            as well: its polynomial would lose the sign.
 // Source     J. F. Hart et al., Computer Approximations (1968), for polynomials of this kind.
 //            Tables: tools/gentables/trig_32f.cpp.
 #pragma once
