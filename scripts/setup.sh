@@ -3,7 +3,8 @@
 #
 #   scripts/setup.sh build    what the 32-bit library and the dakvm command are built with (default)
 #   scripts/setup.sh test     that, and what the tests need
-#   scripts/setup.sh full     that, and what ./test.sh --full needs: clang and an emulator
+#   scripts/setup.sh full     that of test and docs, and what ./test.sh --full needs: clang, an
+#                             emulator, provers, what packages are tried out with
 #   scripts/setup.sh accuracy that of test, and what draws the plots of docs/accuracy.md
 #   scripts/setup.sh bench    that of build, and what `dakvm bench` and its documents need: Google
 #                             Benchmark for both word sizes, of which Debian has the one for 32
@@ -14,7 +15,7 @@ set -euo pipefail
 
 build_packages=(cmake make g++ g++-multilib libc6-dev-i386 lib32gomp1 libcli11-dev)
 test_packages=(googletest libmpfr-dev nlohmann-json3-dev pkg-config binutils)
-full_packages=(clang qemu-user gappa)
+full_packages=(abigail-tools clang debootstrap gappa libclang-rt-14-dev qemu-user)
 accuracy_packages=(gnuplot-nox)
 bench_packages=(libbenchmark-dev:i386 libbenchmark-dev:amd64 gnuplot-nox libsleef-dev)
 docs_packages=(doxygen help2man)
@@ -30,7 +31,7 @@ level=${1:-build}
 case $level in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${build_packages[@]}" "${test_packages[@]}") ;;
-  full) wanted=("${build_packages[@]}" "${test_packages[@]}" "${full_packages[@]}") ;;
+  full) wanted=("${build_packages[@]}" "${test_packages[@]}" "${docs_packages[@]}" "${full_packages[@]}") ;;
   accuracy) wanted=("${build_packages[@]}" "${test_packages[@]}" "${accuracy_packages[@]}") ;;
   bench) wanted=("${build_packages[@]}" "${bench_packages[@]}") ;;
   docs) wanted=("${build_packages[@]}" "${docs_packages[@]}") ;;
