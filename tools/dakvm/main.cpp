@@ -43,13 +43,17 @@ void describe_eval(CLI::App& eval, EvalArguments& a) {
   eval.add_flag("--force", o.force, "Replace an existing output file")->needs(output);
 
   auto* csv = eval.add_flag("--csv", a.csv, "CSV in; CSV out, with the result as a further column");
-  eval.add_option("--column", o.csv.columns, "Name or number (from 1) of the column; A,B for two")
+  eval.add_option("--column", o.csv.columns,
+                  "Name or number (from 1) of the column; A,B for two; a longer list for further "
+                  "results")
+      ->allow_extra_args(false)
+      ->option_text("TEXT")
       ->needs(csv);
   auto* no_header =
       eval.add_flag("--no-header", a.no_header, "The first CSV line is data")->needs(csv);
   eval.add_option("--delimiter", a.delimiter, "Between CSV columns, one character or 'tab'")
       ->needs(csv);
-  eval.add_option("--name", o.csv.result_names, "Header of the result column; A,B for two")
+  eval.add_option("--name", o.csv.result_names, "Header of the result column; a list of several")
       ->needs(csv)
       ->excludes(no_header);
 
@@ -61,16 +65,33 @@ void describe_eval(CLI::App& eval, EvalArguments& a) {
       ->transform(choice<OnError>(
           {{"stop", OnError::stop}, {"nan", OnError::nan}, {"skip", OnError::skip}}))
       ->option_text("stop|nan|skip");
-  eval.add_option("--summary", a.summary, "Summary on standard error: text, json or none")
+  auto* summary =
+      eval.add_option("--summary", a.summary, "Summary on standard error: text, json or none");
+  summary
       ->transform(choice<SummaryStyle>({{"text", SummaryStyle::text},
                                         {"json", SummaryStyle::json},
                                         {"none", SummaryStyle::none}}))
       ->option_text("text|json|none");
+  eval.add_flag("-q,--quiet", o.quiet,
+                "No summary, no progress: errors alone are told; the exit code is the same")
+      ->excludes(summary);
   eval.footer(
       "Input is text, an element a line: one number, or two separated by white space for\n"
       "functions of two inputs. Numbers are decimal, hexadecimal (0x1.8p+3), inf or nan. Blank\n"
       "lines and lines that start with # are passed over. Raw input and output interleave the\n"
-      "elements of two arrays: a0 b0 a1 b1 ...\n\n" +
+      "elements of two arrays: a0 b0 a1 b1 ...\n\n"
+      "A list of --column has a column for each result, --column a,c, or a pair of columns for "
+      "each\n"
+      "result of a function of two inputs, --column a,b,a,c; a name with a comma stands in double\n"
+      "quotes. --column may be repeated. Each column, or pair, has its own part in the summary.\n\n"
+      "--summary json writes one line, an object with these members:\n"
+      "  function, elements   what was called, over how many elements in all\n"
+      "  statuses             for each exceptional status: status, name, count, first_index (the\n"
+      "                       row, counted from 0) and first_input\n"
+      "  last_status, flags   that of the last exceptional element; IEEE flags that were raised\n"
+      "  by_column            with --csv: columns, elements, statuses, last_status and flags of\n"
+      "                       each column or pair\n"
+      "  bad_cells, first_bad_cell, elements_per_second\n\n" +
       std::string(exit_code_table));
 }
 
@@ -89,7 +110,7 @@ void run_eval(EvalArguments& a) {
   o.csv.header = !a.no_header;
   o.csv.delimiter = delimiter_of(a.delimiter);
   const Summary summary = evaluate(find_function(a.function, a.type, a.grade), o);
-  if (a.summary == SummaryStyle::none) return;
+  if (o.quiet || a.summary == SummaryStyle::none) return;
   std::fputs((a.summary == SummaryStyle::json ? summary_json : summary_text)(summary).c_str(),
              stderr);
 }

@@ -11,7 +11,4 @@ std::string summary_text(const Summary& summary);
 // One line.
 std::string summary_json(const Summary& summary);
 
-// `text` as a JSON string.
-std::string json_string(std::string_view text);
-
 }  // namespace dakvm::tool
