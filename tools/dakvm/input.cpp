@@ -83,12 +83,12 @@ class RawInput : public Input<T> {
                                        " bytes are not a " + "whole number of elements of " +
                                        std::to_string(element_size_) + " bytes");
     block.count = length / element_size_;
-    const char* from = buffer_.data();
-    for (int32_t i = 0; i < block.count; ++i)
-      for (auto& array : block.src) {
-        std::memcpy(&array[i], from, sizeof(T));
-        from += sizeof(T);
-      }
+    for (size_t k = 0; k < block.src.size(); ++k) {
+      const char* from = buffer_.data() + k * sizeof(T);
+      T* const to = block.src[k].data();
+      for (int32_t i = 0; i < block.count; ++i, from += element_size_)
+        std::memcpy(to + i, from, sizeof(T));
+    }
   }
 
  private:

@@ -59,13 +59,15 @@ class RawOutput : public Output<T> {
   explicit RawOutput(OutputFile& file) : file_(file) {}
 
   void write(const Block<T>& block) override {
-    char* to = file_.reserve(block.count * block.dst.size() * sizeof(T));
-    for (int32_t i = 0; i < block.count; ++i)
-      for (const auto& array : block.dst) {
-        std::memcpy(to, &array[i], sizeof(T));
-        to += sizeof(T);
-      }
-    file_.advance(to);
+    const size_t element_size = block.dst.size() * sizeof(T);
+    char* const begin = file_.reserve(block.count * element_size);
+    for (size_t k = 0; k < block.dst.size(); ++k) {
+      char* to = begin + k * sizeof(T);
+      const T* const from = block.dst[k].data();
+      for (int32_t i = 0; i < block.count; ++i, to += element_size)
+        std::memcpy(to, from + i, sizeof(T));
+    }
+    file_.advance(begin + block.count * element_size);
   }
 
  private:
