@@ -80,19 +80,11 @@ void describe_eval(CLI::App& eval, EvalArguments& a) {
       "functions of two inputs. Numbers are decimal, hexadecimal (0x1.8p+3), inf or nan. Blank\n"
       "lines and lines that start with # are passed over. Raw input and output interleave the\n"
       "elements of two arrays: a0 b0 a1 b1 ...\n\n"
-      "A list of --column has a column for each result, --column a,c, or a pair of columns for "
-      "each\n"
-      "result of a function of two inputs, --column a,b,a,c; a name with a comma stands in double\n"
-      "quotes. --column may be repeated. Each column, or pair, has its own part in the summary.\n\n"
-      "--summary json writes one line, an object with these members:\n"
-      "  function, elements   what was called, over how many elements in all\n"
-      "  statuses             for each exceptional status: status, name, count, first_index (the\n"
-      "                       row, counted from 0) and first_input\n"
-      "  last_status, flags   that of the last exceptional element; IEEE flags that were raised\n"
-      "  by_column            with --csv: columns, elements, statuses, last_status and flags of\n"
-      "                       each column or pair\n"
-      "  bad_cells, first_bad_cell, elements_per_second\n\n" +
-      std::string(exit_code_table));
+      "A list of --column has a column for each result, --column a,c, or a pair of columns for\n"
+      "each result of a function of two inputs, --column a,b,a,c; a name with a comma stands in\n"
+      "double quotes. --column may be repeated. Each column, or pair, has its own part in the\n"
+      "summary.\n\n" +
+      std::string(json_members) + "\n" + std::string(exit_code_table));
 }
 
 char delimiter_of(const std::string& text) {
