@@ -45,7 +45,7 @@ const char* skip_zeros(const char* text, const char* end) {
   return text;
 }
 
-// "e-12" to the end of the number. False: something else.
+// What follows the digits, such as "e-12", up to `end`. False: something else.
 bool take_exponent(const char* text, const char* end, int& exponent) {
   if (*text != 'e' && *text != 'E') return false;
   if (++text == end) return false;
@@ -58,7 +58,7 @@ bool take_exponent(const char* text, const char* end, int& exponent) {
   return true;
 }
 
-// Two digits a time.
+// "00" to "99": a division for two digits.
 constexpr auto digit_pairs = [] {
   std::array<char, 200> pairs{};
   for (int k = 0; k < 100; ++k) {

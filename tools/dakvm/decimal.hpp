@@ -1,5 +1,6 @@
-// Decimal numbers to binary and back, several times as fast as <charconv> where words have 32 bits.
-// Both give what <charconv> gives, or leave the number to it.
+// Decimal numbers to binary and back, faster than <charconv> where words have 32 bits: writing by a
+// factor of three or four, reading by a tenth. Both give what <charconv> gives, or leave the number
+// to it.
 #pragma once
 
 namespace dakvm::tool {
