@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "error.hpp"
-#include "summary.hpp"
+#include "text.hpp"
 
 namespace dakvm::bench {
 namespace {

@@ -13,7 +13,8 @@
 #   scripts/setup.sh docs     that of build, and what the manual is built with
 set -euo pipefail
 
-build_packages=(cmake make g++ g++-multilib libc6-dev-i386 lib32gomp1 libcli11-dev)
+build_packages=(cmake make g++ g++-multilib libc6-dev-i386 lib32gomp1 libcli11-dev
+  libdragonbox-dev)
 test_packages=(googletest libmpfr-dev nlohmann-json3-dev pkg-config binutils)
 full_packages=(abigail-tools clang debootstrap gappa libclang-rt-14-dev qemu-user)
 accuracy_packages=(gnuplot-nox)

@@ -14,16 +14,14 @@ namespace {
 
 using namespace dakvm::tool;
 
-void read_all(RowReader& rows, int cells) {
+void read_all(RowReader& rows) {
   Row row;
   while (rows.next(row))
     if (row.misshapen.empty())
-      for (int k = 0; k < cells; ++k) {
-        const std::string_view cell = row.cells[static_cast<size_t>(k)];
+      for (const std::string_view cell : row.cells)
         if (cell.data() < row.line.data() ||
             cell.data() + cell.size() > row.line.data() + row.line.size())
           std::abort();
-      }
 }
 
 }  // namespace
@@ -40,8 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     CsvOptions options;
     options.header = data[0] / 4 % 2 != 0;
     options.delimiter = data[1] % 2 != 0 ? ',' : '\t';
-    options.columns = cells == 2 ? "1,2" : "2";
-    read_all(csv ? *read_csv(input, cells, options) : *read_text(input, cells), cells);
+    options.columns = {cells == 2 ? "1,2" : "2"};
+    read_all(csv ? *read_csv(input, cells, options) : *read_text(input, cells));
   } catch (const Error&) {
   }
   close(file);

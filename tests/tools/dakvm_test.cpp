@@ -104,6 +104,69 @@ TEST_F(Command, SummaryCountsExceptionalElementsAcrossBlocks) {
   EXPECT_EQ(run("eval Sqrt --summary none", "4\n").err, "");
 }
 
+TEST_F(Command, SeveralColumns) {
+  const std::string csv = "a,b,c\n1,x,4\n-2,,8\n";
+  EXPECT_EQ(run("eval Inv --csv --column a,c", csv).out,
+            "a,b,c,Inv(a),Inv(c)\n1,x,4,1,0.25\n-2,,8,-0.5,0.125\n");
+  write("in.csv", csv);
+  EXPECT_EQ(run("eval Inv --csv --name p,q --column c --column 1 in.csv").out,
+            "a,b,c,p,q\n1,x,4,0.25,1\n-2,,8,0.125,-0.5\n");
+  EXPECT_EQ(run("eval SinCos --csv --column u,v", "u,v\n0,-0\n").out,
+            "u,v,SinCos(u).1,SinCos(u).2,SinCos(v).1,SinCos(v).2\n0,-0,0,1,-0,1\n");
+  for (const char* pairs : {"--column a,c,c,a", "--column a,c --column c,a",
+                            "--column a,3 "
+                            "--column c --column a"})
+    EXPECT_EQ(run(std::string("eval Div --csv ") + pairs, csv).out,
+              "a,b,c,Div(a;c),Div(c;a)\n1,x,4,0.25,4\n-2,,8,-0.25,-4\n");
+  EXPECT_EQ(run("eval Inv --csv --no-header --column 1,3", "1,x,4\n").out, "1,x,4,1,0.25\n");
+
+  const std::string commas = "\"a,c\",a,c\n2,4,8\n";
+  EXPECT_EQ(run("eval Inv --csv --column a,c --name 'r,s'", commas).out,
+            "\"a,c\",a,c,\"r,s\"\n2,4,8,0.5\n");
+  EXPECT_EQ(run("eval Inv --csv --column '\"a,c\",c' --name '\"r,s\",t'", commas).out,
+            "\"a,c\",a,c,\"r,s\",t\n2,4,8,0.5,0.125\n");
+
+  expect_failure(5, "there is no column 'd'\nThe columns are:", "eval Inv --csv --column a,d", csv);
+  expect_failure(5, "two columns for each result", "eval Div --csv --column a,c,a", csv);
+  expect_failure(5, "'c' is named twice", "eval Inv --csv --column c,a,3", csv);
+  expect_failure(5, "'a,c' is named twice", "eval Div --csv --column a,c,c,a,a,c", csv);
+  expect_failure(2, "2 result columns, and here 3 names",
+                 "eval Inv --csv --column a,c --name x,y,z", csv);
+}
+
+TEST_F(Command, SummaryOfSeveralColumns) {
+  const std::string csv = "a,b\n0,-801\n0,801\n800,-800\n";
+  const std::string json = run("eval Exp --csv --column a,b --summary json", csv).err;
+  const auto status = [](const char* value_and_name, int count, int row, const char* input) {
+    return R"({"status":)" + std::string(value_and_name) + R"(","count":)" + std::to_string(count) +
+           R"(,"first_index":)" + std::to_string(row) + R"(,"first_input":[")" + input + R"("]})";
+  };
+  const char* const overflow = R"(12,"name":"overflow)";
+  const char* const underflow = R"(17,"name":"underflow)";
+  EXPECT_EQ(json.substr(0, json.find(",\"bad_cells")),
+            R"({"function":"daksExp_64f_A53","elements":6,"statuses":[)" +
+                status(underflow, 2, 0, "-801") + "," + status(overflow, 2, 1, "801") +
+                R"(],"last_status":17,"flags":["overflow","underflow","inexact"],"by_column":[)"
+                R"({"columns":["a"],"elements":3,"statuses":[)" +
+                status(overflow, 1, 2, "800") +
+                R"(],"last_status":12,"flags":["overflow","inexact"]},)"
+                R"({"columns":["b"],"elements":3,"statuses":[)" +
+                status(underflow, 2, 0, "-801") + "," + status(overflow, 1, 1, "801") +
+                R"(],"last_status":17,"flags":["overflow","underflow","inexact"]}])");
+
+  const std::string text = run("eval Exp --csv --column a,b", csv).err;
+  EXPECT_EQ(text.find("daksExp_64f_A53: 6 elements, "), 0u) << text;
+  EXPECT_NE(text.find("\n  a: 3 elements\n    overflow (12): 1, first at index 2, input 800\n"),
+            std::string::npos)
+      << text;
+
+  // A cell that two pairs take is one cell.
+  const Outcome shared =
+      run("eval Div --csv --column a,b,a,c --on-error nan", "a,b,c\n?,1,2\n1,2,4\n");
+  EXPECT_EQ(shared.out, "a,b,c,Div(a;b),Div(a;c)\n?,1,2,nan,nan\n1,2,4,0.5,0.25\n");
+  EXPECT_NE(shared.err.find("bad cells: 1,"), std::string::npos) << shared.err;
+}
+
 TEST_F(Command, BadCells) {
   const std::string csv = "a,b\n1,x\n2,\n3,4\n";
   expect_failure(1, "standard input:2: column 2 (b): 'x' is not a number",
@@ -174,6 +237,27 @@ TEST_F(Command, SignalRemovesTheUnfinishedFile) {
                             .c_str()),
             0);
   EXPECT_EQ(files(), 1u);  // the pipe
+}
+
+// On a terminal, where a progress line is drawn once a second has gone by.
+TEST_F(Command, Quiet) {
+  const auto on_terminal = [&](const std::string& options) {
+    write("feed", "yes 4 | head -4096\nsleep 1.1\nyes 4 | head -4096\n");
+    const std::string line = "cd '" + folder_.string() +
+                             "' && script -qec \"sh feed | '" DAKVM_COMMAND "' eval Sqrt -o out " +
+                             options + "\" /dev/null >terminal";
+    EXPECT_EQ(std::system(line.c_str()), 0);
+    return read("terminal");
+  };
+  const std::string loud = on_terminal("");
+  EXPECT_NE(loud.find("8192 elements\x1b"), std::string::npos) << loud;
+  EXPECT_EQ(on_terminal("--force --quiet"), "");
+  EXPECT_EQ(read("out").size(), 2u * 8192);
+
+  EXPECT_EQ(run("eval Exp -q", "800\n").err, "");
+  expect_failure(1, "'x' is not a number", "eval Exp -q", "x\n");
+  expect_failure(6, "no elements", "eval Exp -q", "");
+  expect_failure(2, "--summary", "eval Exp -q --summary json", "1\n");
 }
 
 TEST_F(Command, List) {

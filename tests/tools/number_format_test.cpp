@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <random>
 
 namespace dakvm::tool {
@@ -70,6 +72,32 @@ TEST(Parse, RoundsCorrectlyToEachType) {
   }
 }
 
+// Up to 18 digits and small powers of ten have a fast path, which a number near the middle of two
+// neighbours must leave: one in 2000 of these.
+TEST(Parse, RoundsShortDecimalsCorrectly) {
+  EXPECT_EQ(parsed<double>("9007199254740993"), 0x4340000000000000u);  // the middle itself
+  EXPECT_EQ(parsed<double>("9007199254740993.01"), 0x4340000000000001u);
+  EXPECT_EQ(parsed<float>("16777217e0"), 0x4b800000u);
+  EXPECT_EQ(parsed<float>("34028235677973366.2e22"), 0x7f800000u);
+  EXPECT_EQ(parsed<double>("0.000000000000000000000000000001"), word_of(1e-30));
+  EXPECT_EQ(parsed<double>(".5E+01"), word_of(5.0));
+  EXPECT_EQ(parsed<double>("-00000000000000000000012.50e-1"), word_of(-1.25));
+  double value;
+  for (const char* text : {".", ".e1", "1e+", "1e-+5", "1e5.", "1.2.3", "1d5"})
+    EXPECT_FALSE(parse(text, value)) << "'" << text << "'";
+
+  std::mt19937_64 random(3);
+  for (int i = 0; i < 100000; ++i) {
+    std::string text = std::to_string(random() % 1000000000000000000 >> random() % 60);
+    if (i % 3 == 0)
+      text += "e" + std::to_string(static_cast<int>(random() % 60) - 30);
+    else
+      text.insert(random() % (text.size() + 1), i % 3 == 1 ? "." : ".0");
+    EXPECT_EQ(parsed<double>(text), word_of(std::strtod(text.c_str(), nullptr))) << text;
+    EXPECT_EQ(parsed<float>(text), word_of(std::strtof(text.c_str(), nullptr))) << text;
+  }
+}
+
 template <class T>
 void expect_round_trip() {
   std::mt19937_64 random(2);
@@ -89,6 +117,36 @@ void expect_round_trip() {
 TEST(Format, ReadsBackAsTheSameNumber) {
   expect_round_trip<double>();
   expect_round_trip<float>();
+}
+
+template <class T>
+void expect_text_of_charconv(const T& value) {
+  char ours[longest_number], theirs[64];
+  char* const end = format(value, Notation::decimal, ours);
+  EXPECT_EQ(std::string(ours, end),
+            std::string(theirs, std::to_chars(theirs, std::end(theirs), value).ptr));
+}
+
+// The shortest digits, the notation that <charconv> chooses, exact digits in large integers.
+TEST(Format, ShortestAsCharconvDoes) {
+  char text[32];
+  for (int exponent = -326; exponent <= 308; ++exponent)
+    for (const char* digits : {"1", "7", "12", "95", "1234567", "314159265358979",
+                               "9007199254740993", "17976931348623157"}) {
+      std::snprintf(text, sizeof text, "%se%d", digits, exponent);
+      expect_text_of_charconv(std::strtod(text, nullptr));
+      expect_text_of_charconv(std::strtof(text, nullptr));
+    }
+  for (int exponent = -1074; exponent < 1024; ++exponent)
+    for (const double power = std::ldexp(1.0, exponent);
+         const double neighbour :
+         {power, std::nextafter(power, 0.0), std::nextafter(-power, -HUGE_VAL)})
+      expect_text_of_charconv(neighbour);
+  for (int exponent = -149; exponent < 128; ++exponent)
+    for (const float power = std::ldexp(1.0f, exponent);
+         const float neighbour :
+         {power, std::nextafter(power, 0.0f), std::nextafter(-power, -HUGE_VALF)})
+      expect_text_of_charconv(neighbour);
 }
 
 TEST(Format, Notations) {

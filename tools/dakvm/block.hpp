@@ -1,7 +1,7 @@
 // Elements on their way through the program, and the two ends of it: input and output.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -13,7 +13,7 @@
 
 namespace dakvm::tool {
 
-// A block of elements. Values enter and leave by their bits, so that NaN payloads survive.
+// A block of rows. Values enter and leave by their bits, so that NaN payloads survive.
 template <class T>
 struct Block {
   static constexpr int32_t capacity = 4096;
@@ -23,14 +23,12 @@ struct Block {
   };
 
   int32_t count = 0;
-  std::array<std::vector<T>, 2> src, dst;
-  std::string text;  // the lines that CSV elements come from
+  std::vector<std::vector<T>> src, dst;  // an array for each cell of a row, and for each result
+  std::string text;                      // the lines that CSV rows come from
   std::vector<Line> lines;
 
-  Block() {
-    for (auto* side : {&src, &dst})
-      for (auto& array : *side) array.resize(capacity);
-  }
+  Block(size_t sources, size_t destinations)
+      : src(sources, std::vector<T>(capacity)), dst(destinations, std::vector<T>(capacity)) {}
 };
 
 enum class OnError { stop, nan, skip };
@@ -50,10 +48,9 @@ class Input {
   virtual void read(Block<T>& block) = 0;
 };
 
-// Cells of `rows`, `sources` to an element. With `keep_lines` the block gets the lines too.
+// With `keep_lines` the block gets the lines too.
 template <class T>
-std::unique_ptr<Input<T>> input_from_rows(RowReader& rows, int sources, bool keep_lines,
-                                          BadCells& bad);
+std::unique_ptr<Input<T>> input_from_rows(RowReader& rows, bool keep_lines, BadCells& bad);
 // Little-endian elements; of two sources a0 b0 a1 b1 ...
 template <class T>
 std::unique_ptr<Input<T>> input_from_raw(InputFile& file, int sources);
@@ -65,15 +62,14 @@ class Output {
   virtual void write(const Block<T>& block) = 0;
 };
 
-// One line an element; two results are separated by a space.
+// One line a row; two results are separated by a space.
 template <class T>
-std::unique_ptr<Output<T>> output_as_text(OutputFile& file, int destinations, Notation notation);
+std::unique_ptr<Output<T>> output_as_text(OutputFile& file, Notation notation);
 // The lines of the input, with the results as further columns.
 template <class T>
-std::unique_ptr<Output<T>> output_as_csv(OutputFile& file, int destinations, Notation notation,
-                                         char delimiter);
+std::unique_ptr<Output<T>> output_as_csv(OutputFile& file, Notation notation, char delimiter);
 // Little-endian elements; of two destinations a0 b0 a1 b1 ...
 template <class T>
-std::unique_ptr<Output<T>> output_as_raw(OutputFile& file, int destinations);
+std::unique_ptr<Output<T>> output_as_raw(OutputFile& file);
 
 }  // namespace dakvm::tool

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "error.hpp"
-#include "summary.hpp"
+#include "text.hpp"
 
 namespace dakvm::tool {
 namespace {

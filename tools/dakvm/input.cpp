@@ -9,8 +9,8 @@ namespace {
 template <class T>
 class RowInput : public Input<T> {
  public:
-  RowInput(RowReader& rows, int sources, bool keep_lines, BadCells& bad)
-      : rows_(rows), sources_(sources), keep_lines_(keep_lines), bad_(bad) {}
+  RowInput(RowReader& rows, bool keep_lines, BadCells& bad)
+      : rows_(rows), keep_lines_(keep_lines), bad_(bad) {}
 
   void read(Block<T>& block) override {
     constexpr size_t most_text = 1 << 22;
@@ -29,18 +29,17 @@ class RowInput : public Input<T> {
   }
 
  private:
-  // False: the line gets no element.
+  // False: the line is left out.
   bool take(Block<T>& block) {
     if (!row_.misshapen.empty()) {
       const bool stop = bad_.on_error == OnError::stop ||
                         (bad_.on_error == OnError::nan && !row_.may_stand_for_nan);
       note_bad(Exit::columns, rows_.place() + ": " + row_.misshapen, stop);
-      for (int k = 0; k < sources_; ++k)
-        block.src[k][block.count] = std::numeric_limits<T>::quiet_NaN();
+      for (auto& array : block.src) array[block.count] = std::numeric_limits<T>::quiet_NaN();
       return bad_.on_error != OnError::skip;
     }
     bool good = true;
-    for (int k = 0; k < sources_; ++k) {
+    for (size_t k = 0; k < block.src.size(); ++k) {
       T& value = block.src[k][block.count];
       if (parse(row_.cells[k], value)) continue;
       good = false;
@@ -64,7 +63,6 @@ class RowInput : public Input<T> {
   }
 
   RowReader& rows_;
-  int sources_;
   bool keep_lines_;
   BadCells& bad_;
   Row row_;
@@ -85,11 +83,12 @@ class RawInput : public Input<T> {
                                        " bytes are not a " + "whole number of elements of " +
                                        std::to_string(element_size_) + " bytes");
     block.count = length / element_size_;
-    const size_t sources = element_size_ / sizeof(T);
-    const char* from = buffer_.data();
-    for (int32_t i = 0; i < block.count; ++i)
-      for (size_t k = 0; k < sources; ++k, from += sizeof(T))
-        std::memcpy(&block.src[k][i], from, sizeof(T));
+    for (size_t k = 0; k < block.src.size(); ++k) {
+      const char* from = buffer_.data() + k * sizeof(T);
+      T* const to = block.src[k].data();
+      for (int32_t i = 0; i < block.count; ++i, from += element_size_)
+        std::memcpy(to + i, from, sizeof(T));
+    }
   }
 
  private:
@@ -101,9 +100,8 @@ class RawInput : public Input<T> {
 }  // namespace
 
 template <class T>
-std::unique_ptr<Input<T>> input_from_rows(RowReader& rows, int sources, bool keep_lines,
-                                          BadCells& bad) {
-  return std::make_unique<RowInput<T>>(rows, sources, keep_lines, bad);
+std::unique_ptr<Input<T>> input_from_rows(RowReader& rows, bool keep_lines, BadCells& bad) {
+  return std::make_unique<RowInput<T>>(rows, keep_lines, bad);
 }
 
 template <class T>
@@ -111,8 +109,8 @@ std::unique_ptr<Input<T>> input_from_raw(InputFile& file, int sources) {
   return std::make_unique<RawInput<T>>(file, sources);
 }
 
-template std::unique_ptr<Input<double>> input_from_rows(RowReader&, int, bool, BadCells&);
-template std::unique_ptr<Input<float>> input_from_rows(RowReader&, int, bool, BadCells&);
+template std::unique_ptr<Input<double>> input_from_rows(RowReader&, bool, BadCells&);
+template std::unique_ptr<Input<float>> input_from_rows(RowReader&, bool, BadCells&);
 template std::unique_ptr<Input<double>> input_from_raw(InputFile&, int);
 template std::unique_ptr<Input<float>> input_from_raw(InputFile&, int);
 

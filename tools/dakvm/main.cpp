@@ -43,13 +43,17 @@ void describe_eval(CLI::App& eval, EvalArguments& a) {
   eval.add_flag("--force", o.force, "Replace an existing output file")->needs(output);
 
   auto* csv = eval.add_flag("--csv", a.csv, "CSV in; CSV out, with the result as a further column");
-  eval.add_option("--column", o.csv.columns, "Name or number (from 1) of the column; A,B for two")
+  eval.add_option("--column", o.csv.columns,
+                  "Name or number (from 1) of the column; A,B for two; a longer list for further "
+                  "results")
+      ->allow_extra_args(false)
+      ->option_text("TEXT")
       ->needs(csv);
   auto* no_header =
       eval.add_flag("--no-header", a.no_header, "The first CSV line is data")->needs(csv);
   eval.add_option("--delimiter", a.delimiter, "Between CSV columns, one character or 'tab'")
       ->needs(csv);
-  eval.add_option("--name", o.csv.result_names, "Header of the result column; A,B for two")
+  eval.add_option("--name", o.csv.result_names, "Header of the result column; a list of several")
       ->needs(csv)
       ->excludes(no_header);
 
@@ -61,17 +65,26 @@ void describe_eval(CLI::App& eval, EvalArguments& a) {
       ->transform(choice<OnError>(
           {{"stop", OnError::stop}, {"nan", OnError::nan}, {"skip", OnError::skip}}))
       ->option_text("stop|nan|skip");
-  eval.add_option("--summary", a.summary, "Summary on standard error: text, json or none")
+  auto* summary =
+      eval.add_option("--summary", a.summary, "Summary on standard error: text, json or none");
+  summary
       ->transform(choice<SummaryStyle>({{"text", SummaryStyle::text},
                                         {"json", SummaryStyle::json},
                                         {"none", SummaryStyle::none}}))
       ->option_text("text|json|none");
+  eval.add_flag("-q,--quiet", o.quiet,
+                "No summary, no progress: errors alone are told; the exit code is the same")
+      ->excludes(summary);
   eval.footer(
       "Input is text, an element a line: one number, or two separated by white space for\n"
       "functions of two inputs. Numbers are decimal, hexadecimal (0x1.8p+3), inf or nan. Blank\n"
       "lines and lines that start with # are passed over. Raw input and output interleave the\n"
-      "elements of two arrays: a0 b0 a1 b1 ...\n\n" +
-      std::string(exit_code_table));
+      "elements of two arrays: a0 b0 a1 b1 ...\n\n"
+      "A list of --column has a column for each result, --column a,c, or a pair of columns for\n"
+      "each result of a function of two inputs, --column a,b,a,c; a name with a comma stands in\n"
+      "double quotes. --column may be repeated. Each column, or pair, has its own part in the\n"
+      "summary.\n\n" +
+      std::string(json_members) + "\n" + std::string(exit_code_table));
 }
 
 char delimiter_of(const std::string& text) {
@@ -89,7 +102,7 @@ void run_eval(EvalArguments& a) {
   o.csv.header = !a.no_header;
   o.csv.delimiter = delimiter_of(a.delimiter);
   const Summary summary = evaluate(find_function(a.function, a.type, a.grade), o);
-  if (a.summary == SummaryStyle::none) return;
+  if (o.quiet || a.summary == SummaryStyle::none) return;
   std::fputs((a.summary == SummaryStyle::json ? summary_json : summary_text)(summary).c_str(),
              stderr);
 }

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <system_error>
 
+#include "decimal.hpp"
+
 namespace dakvm::tool {
 namespace {
 
@@ -31,11 +33,15 @@ bool parse(std::string_view text, T& value) {
     if (text.find_first_of("0123456789abcdefABCDEF.") != 0) return false;
   }
   const char* const end = text.data() + text.size();
-  const auto [stop, problem] = std::from_chars(text.data(), end, value, style);
-  if (stop != end || problem == std::errc::invalid_argument) return false;
-  if (problem == std::errc::result_out_of_range) {
-    parse_out_of_range(whole, value);
-  } else if (negative) {
+  if (style == std::chars_format::hex || !parse_plain_decimal(text.data(), end, value)) {
+    const auto [stop, problem] = std::from_chars(text.data(), end, value, style);
+    if (stop != end || problem == std::errc::invalid_argument) return false;
+    if (problem == std::errc::result_out_of_range) {
+      parse_out_of_range(whole, value);
+      return true;
+    }
+  }
+  if (negative) {
     const Word<T> word = word_of(value) | Word<T>{1} << (8 * sizeof(T) - 1);
     std::memcpy(&value, &word, sizeof word);
   }
@@ -53,8 +59,8 @@ char* format(const T& value, Notation notation, char* out) {
       *out++ = "0123456789abcdef"[word >> shift & 15];
     return out;
   }
-  if (notation == Notation::decimal || !std::isfinite(value))
-    return std::to_chars(out, end, value).ptr;
+  if (!std::isfinite(value)) return std::to_chars(out, end, value).ptr;
+  if (notation == Notation::decimal) return format_shortest_decimal(value, out);
   if (std::signbit(value)) *out++ = '-';
   *out++ = '0';
   *out++ = 'x';

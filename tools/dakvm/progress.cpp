@@ -8,10 +8,8 @@ namespace dakvm::tool {
 
 using namespace std::chrono_literals;
 
-Progress::Progress(bool results_on_stdout)
-    : enabled_(isatty(STDERR_FILENO) && !(results_on_stdout && isatty(STDOUT_FILENO))),
-      start_(Clock::now()),
-      next_(start_ + 1s) {}
+Progress::Progress(bool quiet)
+    : enabled_(!quiet && isatty(STDERR_FILENO)), start_(Clock::now()), next_(start_ + 1s) {}
 
 Progress::~Progress() {
   if (drawn_) std::fputs("\r\x1b[K", stderr);

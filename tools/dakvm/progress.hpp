@@ -10,8 +10,8 @@ namespace dakvm::tool {
 
 class Progress {
  public:
-  // Silent when standard error is no terminal, or results go to the terminal too.
-  explicit Progress(bool results_on_stdout);
+  // Silent too when standard error is no terminal.
+  explicit Progress(bool quiet);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <numeric>
 #include <utility>
 
 #include "error.hpp"
+#include "text.hpp"
 
 namespace dakvm::tool {
 namespace {
@@ -33,14 +35,12 @@ std::string unescaped(std::string_view cell) {
   return text;
 }
 
-std::string counted(size_t count, const char* thing) {
-  return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
-}
-
 class TextReader : public RowReader {
  public:
-  TextReader(InputFile& file, int cells)
-      : file_(file), lines_(file, false), cells_(static_cast<size_t>(cells)) {}
+  TextReader(InputFile& file, int inputs) : file_(file), lines_(file, false) {
+    width_ = static_cast<size_t>(inputs);
+    calls_ = {Call{{0, width_ - 1}}};
+  }
 
   bool next(Row& row) override {
     while (lines_.next(row.line)) {
@@ -50,17 +50,18 @@ class TextReader : public RowReader {
       rest = trimmed(rest);
       if (rest.empty() || rest.front() == '#') continue;
       row.misshapen.clear();
+      row.cells.resize(width_);
       size_t found = 0;
       for (; !rest.empty(); ++found) {
         size_t length = 0;
         while (length < rest.size() && !is_blank(rest[length])) ++length;
-        if (found < cells_) row.cells[found] = rest.substr(0, length);
+        if (found < width_) row.cells[found] = rest.substr(0, length);
         rest.remove_prefix(length);
         while (!rest.empty() && is_blank(rest.front())) rest.remove_prefix(1);
       }
-      if (found != cells_) {
+      if (found != width_) {
         row.misshapen =
-            counted(found, "number") + " on the line, the function takes " + std::to_string(cells_);
+            counted(found, "number") + " on the line, the function takes " + std::to_string(width_);
         row.may_stand_for_nan = true;
       }
       return true;
@@ -71,20 +72,19 @@ class TextReader : public RowReader {
   std::string place() const override {
     return file_.name() + ":" + std::to_string(lines_.number());
   }
-  std::string place(int cell) const override {
+  std::string place(size_t cell) const override {
     return place() + ": column " + std::to_string(cell + 1);
   }
 
  private:
   InputFile& file_;
   LineReader lines_;
-  size_t cells_;
 };
 
 class CsvReader : public RowReader {
  public:
-  CsvReader(InputFile& file, int cells, const CsvOptions& options)
-      : file_(file), lines_(file, true), options_(options), cells_(cells) {
+  CsvReader(InputFile& file, int inputs, const CsvOptions& options)
+      : file_(file), lines_(file, true), options_(options), inputs_(static_cast<size_t>(inputs)) {
     if (!read_fields()) throw Error(Exit::empty, file_.name() + ": the input is empty");
     field_count_ = fields_.size();
     if (options_.header) {
@@ -92,6 +92,7 @@ class CsvReader : public RowReader {
       for (const std::string_view field : fields_) names_.push_back(unescaped(cell_of(field)));
     }
     choose_columns();
+    width_ = chosen_.size();
     first_row_waits_ = !options_.header;
   }
 
@@ -99,29 +100,24 @@ class CsvReader : public RowReader {
     if (!std::exchange(first_row_waits_, false) && !read_fields()) return false;
     row.line = line_;
     row.misshapen.clear();
+    row.cells.resize(width_);
     if (fields_.size() != field_count_)
       row.misshapen = counted(fields_.size(), "column") + ", the first line has " +
                       std::to_string(field_count_);
     else
-      for (int k = 0; k < cells_; ++k) row.cells[k] = cell_of(fields_[chosen_[k]]);
+      for (size_t k = 0; k < width_; ++k) row.cells[k] = cell_of(fields_[chosen_[k]]);
     return true;
   }
 
   std::string place() const override {
     return file_.name() + ":" + std::to_string(lines_.number());
   }
-  std::string place(int cell) const override {
+  std::string place(size_t cell) const override {
     const size_t column = chosen_[cell];
     return place() + ": column " + std::to_string(column + 1) +
            (names_.empty() ? "" : " (" + names_[column] + ")");
   }
   std::string header() const override { return header_; }
-  std::string column_names() const override {
-    std::string result;
-    for (int k = 0; k < cells_; ++k)
-      result += (k == 0 ? "" : ";") + (names_.empty() ? "" : names_[chosen_[k]]);
-    return result;
-  }
 
  private:
   bool read_fields() {
@@ -134,26 +130,46 @@ class CsvReader : public RowReader {
   }
 
   void choose_columns() {
+    std::vector<size_t> wanted;
     if (options_.columns.empty()) {
-      if (field_count_ != static_cast<size_t>(cells_))
+      if (field_count_ != inputs_)
         throw Error(Exit::columns, file_.name() + " has " + counted(field_count_, "column") +
-                                       "; say with --column which " + counted(cells_, "column") +
+                                       "; say with --column which " + counted(inputs_, "column") +
                                        " to take" + columns_there());
-      for (int k = 0; k < cells_; ++k) chosen_[k] = k;
-      return;
+      wanted.resize(inputs_);
+      std::iota(wanted.begin(), wanted.end(), size_t{0});
     }
-    if (cells_ == 1) {
-      chosen_[0] = find_column(options_.columns);
-      return;
+    for (const std::string& list : options_.columns) {
+      if (inputs_ == 1 && std::find(names_.begin(), names_.end(), list) != names_.end()) {
+        wanted.push_back(find_column(list));  // a name may have commas
+        continue;
+      }
+      for (const std::string& name : split_list(list)) wanted.push_back(find_column(name));
     }
-    const size_t comma = options_.columns.find(',');
-    if (comma == options_.columns.npos ||
-        options_.columns.find(',', comma + 1) != options_.columns.npos)
-      throw Error(Exit::columns,
-                  "--column " + options_.columns +
-                      ": the function takes two columns, as in --column FIRST,SECOND");
-    chosen_[0] = find_column(options_.columns.substr(0, comma));
-    chosen_[1] = find_column(options_.columns.substr(comma + 1));
+    if (wanted.size() % inputs_ != 0)
+      throw Error(Exit::columns, "--column " + joined(options_.columns, ",") +
+                                     ": the function takes two columns for each result, as in "
+                                     "--column FIRST,SECOND");
+
+    for (auto column = wanted.begin(); column != wanted.end(); column += inputs_)
+      add_call({column, column + inputs_});
+  }
+
+  // A call over these columns; a column that several calls take is one cell.
+  void add_call(const std::vector<size_t>& columns) {
+    Call call;
+    for (const size_t column : columns)
+      call.columns.push_back(names_.empty() ? std::to_string(column + 1) : names_[column]);
+    for (size_t k = 0; k < columns.size(); ++k) {
+      const auto found = std::find(chosen_.begin(), chosen_.end(), columns[k]);
+      call.cells[k] = found - chosen_.begin();
+      if (found == chosen_.end()) chosen_.push_back(columns[k]);
+    }
+    for (const Call& other : calls_)
+      if (other.cells == call.cells)
+        throw Error(Exit::columns, "--column: " + excerpt(joined(call.columns, ",")) +
+                                       " is named twice, and would give the same result twice");
+    calls_.push_back(call);
   }
 
   size_t find_column(const std::string& wanted) const {
@@ -184,24 +200,24 @@ class CsvReader : public RowReader {
   InputFile& file_;
   LineReader lines_;
   CsvOptions options_;
-  int cells_;
+  size_t inputs_;
   std::string_view line_;
   std::vector<std::string_view> fields_;
   size_t field_count_ = 0;
   std::string header_;
   std::vector<std::string> names_;
-  std::array<size_t, 2> chosen_{};
+  std::vector<size_t> chosen_;  // columns, in the order of the row's cells
   bool first_row_waits_ = false;
 };
 
 }  // namespace
 
-std::unique_ptr<RowReader> read_text(InputFile& file, int cells) {
-  return std::make_unique<TextReader>(file, cells);
+std::unique_ptr<RowReader> read_text(InputFile& file, int inputs) {
+  return std::make_unique<TextReader>(file, inputs);
 }
 
-std::unique_ptr<RowReader> read_csv(InputFile& file, int cells, const CsvOptions& options) {
-  return std::make_unique<CsvReader>(file, cells, options);
+std::unique_ptr<RowReader> read_csv(InputFile& file, int inputs, const CsvOptions& options) {
+  return std::make_unique<CsvReader>(file, inputs, options);
 }
 
 void split_csv(std::string_view body, char delimiter, std::vector<std::string_view>& fields) {
@@ -217,6 +233,14 @@ void split_csv(std::string_view body, char delimiter, std::vector<std::string_vi
     }
   }
   fields.push_back(body.substr(start));
+}
+
+std::vector<std::string> split_list(std::string_view list) {
+  std::vector<std::string_view> fields;
+  split_csv(list, ',', fields);
+  std::vector<std::string> entries;
+  for (const std::string_view field : fields) entries.push_back(unescaped(cell_of(field)));
+  return entries;
 }
 
 std::string_view without_ending(std::string_view line) {

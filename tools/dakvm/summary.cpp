@@ -1,7 +1,10 @@
 #include "summary.hpp"
 
+#include <algorithm>
 #include <cfenv>
 #include <cstdio>
+
+#include "text.hpp"
 
 namespace dakvm::tool {
 namespace {
@@ -33,38 +36,78 @@ std::vector<std::string> flag_names(int flags) {
   return names;
 }
 
-std::string joined(const std::vector<std::string>& parts, const char* separator) {
-  std::string result;
-  for (const std::string& part : parts) result += (result.empty() ? "" : separator) + part;
-  return result;
-}
-
-std::string json_array(std::vector<std::string> strings) {
-  for (std::string& s : strings) s = json_string(s);
-  return "[" + joined(strings, ",") + "]";
-}
-
 std::string rate(const Summary& summary) {
   char text[32];
-  const double elements = static_cast<double>(summary.elements);
+  const double elements = static_cast<double>(summary.elements());
   std::snprintf(text, sizeof text, "%.0f", summary.seconds > 0 ? elements / summary.seconds : 0.0);
   return text;
+}
+
+// All accounts as one, of rows instead of elements: the first and the last are the leftmost and the
+// rightmost of their row.
+Account total(const std::vector<Account>& accounts) {
+  Account sum;
+  for (const Account& account : accounts) {
+    for (const Tally& tally : account.tallies) {
+      const auto same = std::find_if(sum.tallies.begin(), sum.tallies.end(),
+                                     [&](const Tally& t) { return t.status == tally.status; });
+      if (same == sum.tallies.end()) {
+        sum.tallies.push_back(tally);
+        continue;
+      }
+      const uint64_t count = same->count + tally.count;
+      if (tally.first_index < same->first_index) *same = tally;
+      same->count = count;
+    }
+    if (account.last_status != DAKVM_STATUS_OK && account.last_index >= sum.last_index) {
+      sum.last_status = account.last_status;
+      sum.last_index = account.last_index;
+    }
+    sum.flags |= account.flags;
+  }
+  std::stable_sort(sum.tallies.begin(), sum.tallies.end(),
+                   [](const Tally& a, const Tally& b) { return a.first_index < b.first_index; });
+  return sum;
+}
+
+std::string account_text(const Account& account, const std::string& indent) {
+  std::string text;
+  for (const Tally& tally : account.tallies)
+    text += indent + status_name(tally.status) + " (" + std::to_string(tally.status) +
+            "): " + std::to_string(tally.count) + ", first at index " +
+            std::to_string(tally.first_index) + ", input " + joined(tally.first_input, " ") + "\n";
+  text += indent + "last status: " + status_name(account.last_status) + " (" +
+          std::to_string(account.last_status) + ")\n";
+  const auto flags = flag_names(account.flags);
+  return text + indent + "flags raised: " + (flags.empty() ? "none" : joined(flags, ", ")) + "\n";
+}
+
+// The members of an object.
+std::string account_json(const Account& account) {
+  std::vector<std::string> statuses;
+  for (const Tally& tally : account.tallies)
+    statuses.push_back("{\"status\":" + std::to_string(tally.status) +
+                       ",\"name\":" + json_string(status_name(tally.status)) +
+                       ",\"count\":" + std::to_string(tally.count) +
+                       ",\"first_index\":" + std::to_string(tally.first_index) +
+                       ",\"first_input\":" + json_array(tally.first_input) + "}");
+  return "\"statuses\":[" + joined(statuses, ",") +
+         "],\"last_status\":" + std::to_string(account.last_status) +
+         ",\"flags\":" + json_array(flag_names(account.flags));
 }
 
 }  // namespace
 
 std::string summary_text(const Summary& summary) {
-  std::string text = summary.function + ": " + std::to_string(summary.elements) +
-                     (summary.elements == 1 ? " element, " : " elements, ") + rate(summary) +
-                     " a second\n";
-  for (const Tally& tally : summary.tallies)
-    text += "  " + status_name(tally.status) + " (" + std::to_string(tally.status) +
-            "): " + std::to_string(tally.count) + ", first at index " +
-            std::to_string(tally.first_index) + ", input " + joined(tally.first_input, " ") + "\n";
-  text += "  last status: " + status_name(summary.last_status) + " (" +
-          std::to_string(summary.last_status) + ")\n";
-  const auto flags = flag_names(summary.flags);
-  text += "  flags raised: " + (flags.empty() ? "none" : joined(flags, ", ")) + "\n";
+  std::string text = summary.function + ": " + counted(summary.elements(), "element") + ", " +
+                     rate(summary) + " a second\n";
+  if (summary.accounts.size() == 1) {
+    text += account_text(summary.accounts[0], "  ");
+  } else {
+    for (const Account& account : summary.accounts)
+      text += "  " + joined(account.columns, ";") + ": " + counted(summary.rows, "element") + "\n" +
+              account_text(account, "    ");
+  }
   if (summary.bad.count > 0)
     text += "  bad cells: " + std::to_string(summary.bad.count) +
             (summary.bad.on_error == OnError::nan ? ", taken as NaN" : ", their lines left out") +
@@ -73,36 +116,18 @@ std::string summary_text(const Summary& summary) {
 }
 
 std::string summary_json(const Summary& summary) {
-  std::vector<std::string> statuses;
-  for (const Tally& tally : summary.tallies)
-    statuses.push_back("{\"status\":" + std::to_string(tally.status) +
-                       ",\"name\":" + json_string(status_name(tally.status)) +
-                       ",\"count\":" + std::to_string(tally.count) +
-                       ",\"first_index\":" + std::to_string(tally.first_index) +
-                       ",\"first_input\":" + json_array(tally.first_input) + "}");
+  std::vector<std::string> columns;
+  for (const Account& account : summary.accounts)
+    if (!account.columns.empty())
+      columns.push_back("{\"columns\":" + json_array(account.columns) + ",\"elements\":" +
+                        std::to_string(summary.rows) + "," + account_json(account) + "}");
   return "{\"function\":" + json_string(summary.function) +
-         ",\"elements\":" + std::to_string(summary.elements) + ",\"statuses\":[" +
-         joined(statuses, ",") + "],\"last_status\":" + std::to_string(summary.last_status) +
-         ",\"flags\":" + json_array(flag_names(summary.flags)) +
+         ",\"elements\":" + std::to_string(summary.elements()) + "," +
+         account_json(total(summary.accounts)) +
+         (columns.empty() ? "" : ",\"by_column\":[" + joined(columns, ",") + "]") +
          ",\"bad_cells\":" + std::to_string(summary.bad.count) +
          ",\"first_bad_cell\":" + json_string(summary.bad.first) +
          ",\"elements_per_second\":" + rate(summary) + "}\n";
-}
-
-std::string json_string(std::string_view text) {
-  std::string result = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') {
-      result += {'\\', c};
-    } else if (static_cast<unsigned char>(c) < 0x20) {
-      char escape[8];
-      std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
-      result += escape;
-    } else {
-      result += c;
-    }
-  }
-  return result + '"';
 }
 
 }  // namespace dakvm::tool

@@ -2,16 +2,29 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "evaluate.hpp"
 
 namespace dakvm::tool {
 
 std::string summary_text(const Summary& summary);
-// One line.
 std::string summary_json(const Summary& summary);
 
-// `text` as a JSON string.
-std::string json_string(std::string_view text);
+inline constexpr std::string_view json_members =
+    "--summary json writes one line, an object with these members:\n"
+    "  function             its exported name\n"
+    "  elements             how many were evaluated, in all columns\n"
+    "  statuses             of each exceptional status: status, name, count, first_index (the "
+    "row,\n"
+    "                       counted from 0) and first_input\n"
+    "  last_status          that of the last exceptional element, 0 if there is none\n"
+    "  flags                the IEEE flags that the function raised\n"
+    "  by_column            with --csv: columns, elements, statuses, last_status and flags of "
+    "each\n"
+    "                       column or pair\n"
+    "  bad_cells            how many cells were not numbers\n"
+    "  first_bad_cell       where the first of them is, and what it holds\n"
+    "  elements_per_second  over the whole run\n";
 
 }  // namespace dakvm::tool
