@@ -32,7 +32,10 @@ level=${1:-build}
 case $level in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${build_packages[@]}" "${test_packages[@]}") ;;
-  full) wanted=("${build_packages[@]}" "${test_packages[@]}" "${docs_packages[@]}" "${full_packages[@]}") ;;
+  full)
+    wanted=("${build_packages[@]}" "${test_packages[@]}" "${docs_packages[@]}")
+    wanted+=("${full_packages[@]}")
+    ;;
   accuracy) wanted=("${build_packages[@]}" "${test_packages[@]}" "${accuracy_packages[@]}") ;;
   bench) wanted=("${build_packages[@]}" "${bench_packages[@]}") ;;
   docs) wanted=("${build_packages[@]}" "${docs_packages[@]}") ;;

@@ -6,7 +6,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <iterator>
@@ -14,49 +13,6 @@
 
 namespace dakvm::tool {
 namespace {
-
-static_assert(std::numeric_limits<long double>::digits == 64);
-
-constexpr int most_digits = 18;  // an integer of so many is below 2^63
-constexpr int most_power = 27;   // 5^27 < 2^64: so many powers of ten have no rounding error
-constexpr auto powers_of_ten = [] {
-  std::array<long double, most_power + 1> powers{1};
-  for (int k = 1; k <= most_power; ++k) powers[k] = 10 * powers[k - 1];
-  return powers;
-}();
-
-bool is_digit(char c) { return '0' <= c && c <= '9'; }
-
-// Appends the digits from `text` on to those of `integer`; returns where they end. In groups: words
-// of 32 bits multiply faster.
-const char* take_digits(const char* text, const char* end, uint64_t& integer) {
-  constexpr uint32_t full = 1000000000;
-  for (;;) {
-    uint32_t group = 0, scale = 1;
-    for (; scale < full && text != end && is_digit(*text); ++text, scale *= 10)
-      group = 10 * group + static_cast<uint32_t>(*text - '0');
-    integer = integer * scale + group;
-    if (scale < full) return text;
-  }
-}
-
-const char* skip_zeros(const char* text, const char* end) {
-  while (text != end && *text == '0') ++text;
-  return text;
-}
-
-// What follows the digits, such as "e-12", up to `end`. False: something else.
-bool take_exponent(const char* text, const char* end, int& exponent) {
-  if (*text != 'e' && *text != 'E') return false;
-  if (++text == end) return false;
-  const bool negative = *text == '-';
-  text += negative || *text == '+';
-  if (text == end || end - text > 4) return false;
-  uint64_t size = 0;
-  if (take_digits(text, end, size) != end) return false;
-  exponent = negative ? -static_cast<int>(size) : static_cast<int>(size);
-  return true;
-}
 
 // "00" to "99": a division for two digits.
 constexpr auto digit_pairs = [] {
@@ -93,43 +49,6 @@ char* put_integer(uint64_t integer, char* out) {
 }
 
 }  // namespace
-
-template <class T>
-bool parse_plain_decimal(const char* text, const char* end, T& value) {
-  uint64_t integer = 0;
-  int power = 0;
-  const char* at = skip_zeros(text, end);
-  const char* stop = take_digits(at, end, integer);
-  ptrdiff_t digits = stop - at;
-  bool has_digits = stop != text;
-  if (stop != end && *stop == '.') {
-    const char* const fraction = stop + 1;
-    at = integer == 0 ? skip_zeros(fraction, end) : fraction;
-    stop = take_digits(at, end, integer);
-    digits += stop - at;
-    has_digits |= stop != fraction;
-    if (stop - fraction > most_power) return false;
-    power = -static_cast<int>(stop - fraction);
-  }
-  if (!has_digits || digits > most_digits) return false;
-  if (int exponent; stop != end) {
-    if (!take_exponent(stop, end, exponent)) return false;
-    power += exponent;
-  }
-  if (power < -most_power || power > most_power) return false;
-
-  // Rounded once, to 64 bits. Unless that is the middle of two numbers of type T, the second
-  // rounding goes where one alone would have gone.
-  const auto exact = static_cast<long double>(static_cast<int64_t>(integer));
-  const long double nearest =
-      power < 0 ? exact / powers_of_ten[-power] : exact * powers_of_ten[power];
-  uint64_t significand;
-  std::memcpy(&significand, &nearest, sizeof significand);
-  constexpr uint64_t half = uint64_t{1} << (63 - std::numeric_limits<T>::digits);
-  if ((significand & (2 * half - 1)) == half) return false;
-  value = static_cast<T>(nearest);
-  return true;
-}
 
 template <class T>
 char* format_shortest_decimal(const T& value, char* out) {
@@ -181,8 +100,6 @@ char* format_shortest_decimal(const T& value, char* out) {
   return out + power_digits;
 }
 
-template bool parse_plain_decimal(const char*, const char*, double&);
-template bool parse_plain_decimal(const char*, const char*, float&);
 template char* format_shortest_decimal(const double&, char*);
 template char* format_shortest_decimal(const float&, char*);
 

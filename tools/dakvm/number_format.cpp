@@ -33,15 +33,11 @@ bool parse(std::string_view text, T& value) {
     if (text.find_first_of("0123456789abcdefABCDEF.") != 0) return false;
   }
   const char* const end = text.data() + text.size();
-  if (style == std::chars_format::hex || !parse_plain_decimal(text.data(), end, value)) {
-    const auto [stop, problem] = std::from_chars(text.data(), end, value, style);
-    if (stop != end || problem == std::errc::invalid_argument) return false;
-    if (problem == std::errc::result_out_of_range) {
-      parse_out_of_range(whole, value);
-      return true;
-    }
-  }
-  if (negative) {
+  const auto [stop, problem] = std::from_chars(text.data(), end, value, style);
+  if (stop != end || problem == std::errc::invalid_argument) return false;
+  if (problem == std::errc::result_out_of_range) {
+    parse_out_of_range(whole, value);
+  } else if (negative) {
     const Word<T> word = word_of(value) | Word<T>{1} << (8 * sizeof(T) - 1);
     std::memcpy(&value, &word, sizeof word);
   }
