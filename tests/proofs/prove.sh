@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Has a generator write its scripts and Gappa prove them: prove.sh GAPPA GENERATOR [FOLDER]
+# A FOLDER keeps the scripts.
+set -euo pipefail
+gappa=$1 generator=$2
+folder=${3:-$(mktemp -d)}
+[[ $# -eq 3 ]] || trap 'rm -rf "$folder"' EXIT
+mkdir -p "$folder"
+
+"$generator" "$folder"
+
+# A claim that does not hold is not searched for in ever smaller intervals. A warning says that a
+# rewriting is no identity, or of no use, which it is where the kernel is not what it was.
+prove() {
+  local message
+  if message=$(timeout 60 "$1" -Eno-auto-dichotomy "$2" 2>&1) && [[ -z $message ]]; then
+    return
+  fi
+  printf '%s is not proved:\n%s\n' "$2" "$(head -n 20 <<<"$message")" >&2
+  return 1
+}
+export -f prove
+scripts=$(find "$folder" -name '*.gappa' | wc -l)
+[[ $scripts -gt 0 ]] || { echo "$generator wrote no scripts" >&2; exit 1; }
+find "$folder" -name '*.gappa' -print0 | sort -z |
+  xargs -0 -n 1 -P "$(nproc)" bash -c 'prove "$0" "$1"' "$gappa" ||
+  { echo "some of $scripts scripts are not proved" >&2; exit 1; }
+echo "$scripts scripts proved"
