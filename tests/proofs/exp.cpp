@@ -7,9 +7,8 @@
 //   the distance of step_hi + step_lo from ln2/64 and of value (1 + tail) from 2^(j/64): by MPFR;
 //   the largest error of the polynomial, from the power series of the difference (bounds.hpp).
 // And it checks that r has the right sign where that matters.
-#include "exponential/exp/exp_kernel.hpp"
-
 #include "bounds.hpp"
+#include "exponential/exp/exp_kernel.hpp"
 #include "script.hpp"
 #include "trace.hpp"
 
@@ -46,8 +45,8 @@ dakvm::exp::HighTable named_table() {
   return t;
 }
 
-// A bound on |P(r) - (e^r - 1)| over the reduced range: of the difference of the two power series up
-// to r^30, and 2^-200 for the rest, which is below 2 reach^31.
+// A bound on |P(r) - (e^r - 1)| over the reduced range: of the difference of the two power series
+// up to r^30, and 2^-200 for the rest, which is below 2 reach^31.
 Real polynomial_error() {
   const double c[] = {0, 1, table.c2, table.c3, table.c4, table.c5, table.c6};
   std::vector<Real> difference;
@@ -61,17 +60,17 @@ Real polynomial_error() {
 }
 
 // For N = 64 M, where e^x lies close to a power of two, r has the sign of x - N ln2/64 and is at
-// least 2^-71: no double is so close to N ln2/64 that the error of r could change that. (At M = 0, r
-// is x.) Row 0 relies on it.
+// least 2^-71: no double is so close to N ln2/64 that the error of r could change that. (At M = 0,
+// r is x.) Row 0 relies on it.
 constexpr double least_r = 0x1p-71;
 
 void check_signs() {
   for (int M = -1076; M <= 1025; ++M) {
     const Real multiple = Real(M) * gentables::ln2();
     if (M != 0)
-      gentables::check(Real(least_r + reduction_error) <
-                           gentables::abs(multiple - Real(multiple.nearest())),
-                       "an argument is so close to a multiple of ln 2 that r may have no sign");
+      gentables::check(
+          Real(least_r + reduction_error) < gentables::abs(multiple - Real(multiple.nearest())),
+          "an argument is so close to a multiple of ln 2 that r may have no sign");
   }
 }
 
@@ -150,9 +149,8 @@ void write_row(const std::string& folder, int j, const std::string& suffix,
       gentables::abs(gentables::exp2(Real(j) / Real(64)) - Real(value) * (Real(1) + Real(tail)));
   // Between r and R the slope of e^t is at most e^reach.
   const Real error = polynomial + Real(reduction_error) * gentables::exp(Real(reach));
-  write_script(
-      folder, "row_" + std::to_string(j) + suffix,
-      fill(R"(# e^x 2^-M for N = 64 M + <<j>>, r in <<range>>.
+  write_script(folder, "row_" + std::to_string(j) + suffix,
+               fill(R"(# e^x 2^-M for N = 64 M + <<j>>, r in <<range>>.
 <<formats>>r = x87(real_r);
 <<kernel>>
 # The exact result is E (1 + W), with E = 2^(<<j>>/64), W = e^R - 1, and R what r should be.
@@ -172,23 +170,23 @@ P = <<P>>;
   - value*tail*W                     # left out by the kernel
   - (E - value*(1 + tail))*(1 + W);
 <<sign>>)",
-           {{"j", std::to_string(j)},
-            {"sign", j != 0 ? "" : R"(
+                    {{"j", std::to_string(j)},
+                     {"sign", j != 0 ? "" : R"(
 # q has the sign of r.
 r + higher -> r*(1 + higher/r)                        { r <> 0 };
 higher/r -> w*(1 + (higher - w*r)/(w*r))              { r <> 0, w <> 0 };
 )"},
-            {"formats", formats},
-            {"kernel", listing.print({walk.result})},
-            {"P", listing.exact(q)},
-            {"range", range},
-            {"table_error", bounds::upper(table_error)},
-            {"error", bounds::upper(error)},
-            {"register_error", trace::text_of(register_error)},
-            {"result_error", trace::text_of(result_error)},
-            {"unit", unit == 0x1p-53 ? "2^-53" : "2^-52"},
-            {"register_bound", trace::text_of(register_error * unit)},
-            {"result_bound", trace::text_of(result_error * unit)}}));
+                     {"formats", formats},
+                     {"kernel", listing.print({walk.result})},
+                     {"P", listing.exact(q)},
+                     {"range", range},
+                     {"table_error", bounds::upper(table_error)},
+                     {"error", bounds::upper(error)},
+                     {"register_error", trace::text_of(register_error)},
+                     {"result_error", trace::text_of(result_error)},
+                     {"unit", unit == 0x1p-53 ? "2^-53" : "2^-52"},
+                     {"register_bound", trace::text_of(register_error * unit)},
+                     {"result_bound", trace::text_of(result_error * unit)}}));
 }
 
 }  // namespace

@@ -13,8 +13,8 @@ inline const std::string formats =
     "@dbl = float<ieee_64, ne>; # a store to memory\n\n";
 
 // The text with each <<name>> replaced by its value.
-inline std::string fill(
-    std::string text, std::initializer_list<std::pair<std::string, std::string>> values) {
+inline std::string fill(std::string text,
+                        std::initializer_list<std::pair<std::string, std::string>> values) {
   for (const auto& [name, value] : values)
     for (size_t at; (at = text.find("<<" + name + ">>")) != std::string::npos;)
       text.replace(at, name.size() + 4, value);

@@ -6,7 +6,6 @@
 //
 // The claim of each is a hypothesis of the next. Nothing is computed beside Gappa.
 #include "algebraic/sqrt/sqrt_kernel.hpp"
-
 #include "bounds.hpp"
 #include "script.hpp"
 #include "trace.hpp"
@@ -30,7 +29,8 @@ constexpr Errors after[] = {
     {"0x1.3p-9", "0"}, {"0x1.2p-17", "0x1p-61"}, {"0x1p-33", "0x1p-60"}, {"0x1p-59", "0x1.4p-59"}};
 
 const std::string letters =
-    "\n# y is s (1 + a) and h is (1 + b)/(2 s), and D is s (a - b) but for the roundings in y and h.\n"
+    "\n# y is s (1 + a) and h is (1 + b)/(2 s), and D is s (a - b) but for the roundings in y and "
+    "h.\n"
     "g = 0.5/s;\n";
 
 // One element on its way, for a seed that is a constant of the script.

@@ -52,7 +52,7 @@ dakvm::x87::Ext operation(char kind, dakvm::x87::Ext a, dakvm::x87::Ext b) {
     return f.kind == 'n' && f.value == static_cast<int32_t>(f.value);
   };
   if (is_whole(x) && is_whole(y) && kind != '/')
-    return number(kind == '+' ? x.value + y.value
+    return number(kind == '+'   ? x.value + y.value
                   : kind == '-' ? x.value - y.value
                                 : x.value * y.value);
   if (kind == '+' && x.is(0)) return b;
@@ -75,9 +75,8 @@ namespace dakvm::x87 {
 Ext::Ext(double number) {
   uint64_t bits;
   std::memcpy(&bits, &number, sizeof bits);
-  formula = (bits & carrier) == carrier && bits >> 63 == 0
-                ? static_cast<int>(bits & 0xffffffff)
-                : add({'n', -1, -1, number, "", true});
+  formula = (bits & carrier) == carrier && bits >> 63 == 0 ? static_cast<int>(bits & 0xffffffff)
+                                                           : add({'n', -1, -1, number, "", true});
 }
 
 Ext operator+(Ext a, Ext b) { return operation('+', a, b); }
@@ -87,8 +86,7 @@ Ext operator/(Ext a, Ext b) { return operation('/', a, b); }
 
 double store(Ext value) {
   if (at(value).kind == 'n') return at(value).value;
-  return carry(at(value).fits_double ? value.formula
-                                     : add({'s', value.formula, -1, 0, "", true}));
+  return carry(at(value).fits_double ? value.formula : add({'s', value.formula, -1, 0, "", true}));
 }
 
 }  // namespace dakvm::x87
