@@ -178,7 +178,7 @@ higher/r -> w*(1 + (higher - w*r)/(w*r))              { r <> 0, w <> 0 };
 )"},
                      {"formats", formats},
                      {"kernel", listing.print({walk.result})},
-                     {"P", listing.exact(q)},
+                     {"P", listing.exact(q, walk.r)},
                      {"range", range},
                      {"table_error", bounds::upper(table_error)},
                      {"error", bounds::upper(error)},

@@ -178,8 +178,14 @@ std::string Listing::print(const std::vector<Ext>& results) {
   return text;
 }
 
-std::string Listing::exact(Ext value) const {
-  return inner(value.formula, [&](int of) { return given_.contains(of); });
+std::string Listing::exact(Ext value, Ext letter) const {
+  return inner(value.formula, [&](int of) {
+    if (of == letter.formula) return true;
+    if (at(of).kind == 's')
+      stop("a rounding to memory between " + names_.at(letter.formula) +
+           " and what is a formula of it");
+    return false;
+  });
 }
 
 }  // namespace trace

@@ -42,8 +42,8 @@ class Listing {
 
   // Stops the program if a name belongs to no value on the way to the results.
   std::string print(const std::vector<Ext>& results);
-  // The value in terms of stored and given ones, without roundings.
-  std::string exact(Ext value) const;
+  // The value without roundings, in terms of one letter; stops the program if a store lies between.
+  std::string exact(Ext value, Ext letter) const;
 
  private:
   void visit(int formula);
