@@ -10,7 +10,7 @@
 // gives y = hi + lo with 26 bits in hi and at most 38 in
 //            lo, so hi - as c - (c - y), where the second difference is rounded - and lo are
 //            exact as they stand in the register, and so are hi hi and v - hi hi.
-// Error      seed 2^-8.9, then 2^-17.2, 2^-33.8 and 2^-63.4 (registers); the correction leaves
+// Error      seed 2^-8.9, then 2^-17.2, 2^-33.8 and about 2^-63 (registers); the correction leaves
 //            2^-64, one rounding of 64 bits before the store: 0.50024 ulp in double precision.
 // Special    NaN, infinities, zeros, negative numbers, subnormal numbers: apply.
 // Source     P. Markstein, IBM J. Res. Dev. 34 (1990) 111-119. Table: tools/gentables/sqrt.cpp.

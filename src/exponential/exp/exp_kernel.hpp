@@ -1,7 +1,7 @@
 // e^x for one element; the two tables, and with them two accuracies, share this file.
 //
 // Method     x = N ln2/64 + r with N = nearest(x 64/ln2) = 64 M + j, 0 <= j < 64, so that
-//                e^x = 2^M * 2^(j/64) * e^r,  |r| <= 0.005416
+//                e^x = 2^M * 2^(j/64) * e^r,  |r| <= 0.005418
 //            High accuracy: 2^(j/64) is value(1 + tail), e^r - 1 a polynomial q of degree 6;
 //                e^x = (value + (q + tail) value) 2^M.
 //            Low accuracy: 2^(j/64) is value alone, q of degree 5; e^x = (q + 1) value 2^M.

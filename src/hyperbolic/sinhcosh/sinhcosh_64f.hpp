@@ -1,7 +1,7 @@
 // sinh(x) and cosh(x) in double precision; both functions and both accuracies.
 //
 // Method     a = |x| = N ln2/64 + r with N = nearest(a 64/ln2) = 64 m + j, 0 <= j < 64, |r| <=
-//            0.005416. With up = 2^(m-1) 2^(j/64) and down = 2^(-m-2) 2^((64-j)/64), read from one
+//            0.005418. With up = 2^(m-1) 2^(j/64) and down = 2^(-m-2) 2^((64-j)/64), read from one
 //            table of 65 rows, S = up + down and D = up - down,
 //                cosh(a) = S cosh(r) + D sinh(r),  sinh(a) = D cosh(r) + S sinh(r)
 //            where cosh(r) - 1 and sinh(r) - r are the even and the odd part of the polynomial for

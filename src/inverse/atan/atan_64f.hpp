@@ -6,7 +6,7 @@
 // Exactness  u and y c are exact, and so is what 1 + y c loses when it is rounded twice, to q and
 //            to D: (y c - q) + ((q - D) + 1). The splits leave 26 bits, so D_hi r_hi and r_hi u_hi
 //            are exact.
-// Error      t is off by 2^-78 of itself, registers 2^-64: below 1/8 the polynomial decides, 0.5023
+// Error      t is off by 2^-74 of itself, registers 2^-64: below 1/8 the polynomial decides, 0.5023
 //            ulp.
 // Special    NaN, infinities, |x| >= 2^54, |x| < 2^-53: apply.
 // Source     T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the split and the quotient.
