@@ -192,7 +192,7 @@ class Scan {
         static_cast<int64_t>(std::bit_cast<uint64_t>(w) >> 52 & 0x7ff) - 1023 - 23, -149);
     double ulp =
         std::fabs(result - w) * std::bit_cast<double>(static_cast<uint64_t>(1023 - exponent) << 52);
-    if (!(ulp < tally.worst.ulp * (1 - wide_ulp))) {
+    if (!(ulp <= tally.worst.ulp * (1 - wide_ulp))) {
       const uint32_t in[2] = {word, 0};
       ulp = judge_.error<float>(in, output, got, expected);
       ++tally.exact_values;
