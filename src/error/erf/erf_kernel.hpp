@@ -72,10 +72,10 @@ struct Medium : Argument {
     const auto x = Bits<T>::read(src);
     const auto magnitude = widened_magnitude(x), saturated = Bits<double>::read(&t.saturated);
     take(x.lead(), magnitude);
-    row = &t.rows[(magnitude.high - Bits<double>::read(&t.small).high) >> 18];
-    if ((uint64_t{magnitude.high} << 32 | magnitude.low) >=
-        (uint64_t{saturated.high} << 32 | saturated.low))
-      row = &one;
+    const bool is_saturated = (uint64_t{magnitude.high} << 32 | magnitude.low) >=
+                              (uint64_t{saturated.high} << 32 | saturated.low);
+    const uint32_t index = (magnitude.high - Bits<double>::read(&t.small).high) >> 18;
+    row = is_saturated ? &one : &t.rows[index];
   }
 
   DAKVM_INLINE void reduce(const Table& table) {
