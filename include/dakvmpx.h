@@ -261,7 +261,7 @@ int32_t daksPowx_32f_A24(const float* src, float exponent, float* dst, int32_t l
  *           the infinity of the argument's sign. Infinite arguments are not exceptional. Zeros keep
  *           their sign, and sinh(-x) = -sinh(x) bit for bit.
  * Accuracy: 64f A53 0.50258 ulp, 99.967 % correctly rounded; 64f A50 1.00717 ulp, 91.782 %
- *           correctly rounded; 32f 0.50004 ulp, 99.998 % correctly rounded.
+ *           correctly rounded; 32f 0.50010 ulp, 99.9997330 % correctly rounded.
  * Source:   P. T. P. Tang, ACM TOMS 15 (1989) 144-157, for the exponential.
  * @{ */
 int32_t daksSinh_64f_A50(const double* src, double* dst, int32_t len);
@@ -277,7 +277,7 @@ int32_t daksSinh_32f_A24(const float* src, float* dst, int32_t len);
  * Domain:   all numbers. From |x| = 710.4758... (32f 89.41599) on DAKVM_STATUS_OVERFLOW, the result
  *           +Inf. Infinite arguments are not exceptional. cosh(-x) = cosh(x) bit for bit.
  * Accuracy: 64f A53 0.50390 ulp, 99.936 % correctly rounded; 64f A50 1.03766 ulp, 81.938 %
- *           correctly rounded; 32f 0.50004 ulp, 99.998 % correctly rounded.
+ *           correctly rounded; 32f 0.50007 ulp, 99.9997911 % correctly rounded.
  * Source:   as the hyperbolic sine.
  * @{ */
 int32_t daksCosh_64f_A50(const double* src, double* dst, int32_t len);
@@ -293,7 +293,7 @@ int32_t daksCosh_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   all numbers; nothing is exceptional. From |x| = 19.0615... on the result is 1 with the
  *           argument's sign, and inexact is raised. tanh(-x) = -tanh(x) bit for bit.
- * Accuracy: 64f 0.50055 ulp, 99.979 % correctly rounded; 32f 0.50125 ulp, 99.992 % correctly
+ * Accuracy: 64f 0.50055 ulp, 99.979 % correctly rounded; 32f 0.50129 ulp, 99.9996829 % correctly
  *           rounded.
  * @{ */
 int32_t daksTanh_64f_A50(const double* src, double* dst, int32_t len);
@@ -309,8 +309,7 @@ int32_t daksTanh_32f_A24(const float* src, float* dst, int32_t len);
  * polynomial, below 2^-40 its first term.
  *
  * Domain:   all numbers. No element is exceptional; infinite arguments give 1 or -1 without a flag.
- * Accuracy: 64f 0.50873 ulp, 99.897 % correctly rounded; 32f 0.50000 ulp, none of 2008004
- *           misrounded.
+ * Accuracy: 64f 0.50873 ulp, 99.897 % correctly rounded; 32f correctly rounded for every argument.
  * Source:   rows fitted by Remez's exchange, C. R. Acad. Sci. Paris 199 (1934) 337-340.
  * @{ */
 int32_t daksErf_64f_A50(const double* src, double* dst, int32_t len);
@@ -327,8 +326,7 @@ int32_t daksErf_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   all numbers. From 27.226 (32f 10.054) on DAKVM_STATUS_UNDERFLOW, the result +0. Subnormal
  *           results and infinite arguments are not exceptional.
- * Accuracy: 64f 0.50059 ulp, 99.984 % correctly rounded; 32f 0.50000 ulp, none of 1004002
- *           misrounded.
+ * Accuracy: 64f 0.50059 ulp, 99.984 % correctly rounded; 32f correctly rounded for every argument.
  * Source:   as above; the exponential: P. T. P. Tang, ACM TOMS 15 (1989) 144-157.
  * @{ */
 int32_t daksErfc_64f_A50(const double* src, double* dst, int32_t len);
@@ -346,7 +344,7 @@ int32_t daksErfc_32f_A24(const float* src, float* dst, int32_t len);
  * Domain:   all numbers; no argument is exceptional. Infinities give pi/2 with their sign, zeros
  *           themselves. atan(-x) is -atan(x) bit for bit. A NaN comes back quiet, from the 32f
  *           functions with its sign cleared.
- * Accuracy: 64f 0.50233 ulp, 99.960 % correctly rounded; 32f 0.61665 ulp, 98.704 % correctly
+ * Accuracy: 64f 0.50233 ulp, 99.960 % correctly rounded; 32f 0.61675 ulp, 99.883 % correctly
  *           rounded.
  * Source:   T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the quotient of two doubles.
  * @{ */
@@ -469,7 +467,7 @@ int32_t daksAtanh_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. sin(-x) = -sin(x),
  *           zeros keep their sign.
- * Accuracy: 64f 0.52411 ulp, 99.934 % correctly rounded; 32f 0.80098 ulp, 96.993 % correctly
+ * Accuracy: 64f 0.52411 ulp, 99.934 % correctly rounded; 32f 0.80104 ulp, 98.988 % correctly
  *           rounded.
  * Source:   P. T. P. Tang, 10th IEEE Symp. Computer Arithmetic (1991) 232-236, for reduction to the
  *           points of a table; M. H. Payne and R. N. Hanek, ACM SIGNUM 18 (1983) 19-24.
@@ -485,7 +483,7 @@ int32_t daksSin_32f_A24(const float* src, float* dst, int32_t len);
  * dst[i] = cos(src[i]), src in radians: as the sine, 32f from 500000 on with the double algorithm.
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. cos(-x) = cos(x).
- * Accuracy: 64f 0.60110 ulp, 99.931 % correctly rounded; 32f 0.80096 ulp, 96.612 % correctly
+ * Accuracy: 64f 0.60110 ulp, 99.931 % correctly rounded; 32f 0.80106 ulp, 98.172 % correctly
  *           rounded.
  * Source:   as the sine.
  * @{ */
@@ -501,7 +499,7 @@ int32_t daksCos_32f_A24(const float* src, float* dst, int32_t len);
  * the two functions above.
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, both results NaN.
- * Accuracy: 64f 0.60110 ulp, 99.921 % correctly rounded; 32f 0.56176 ulp, 99.609 % correctly
+ * Accuracy: 64f 0.60110 ulp, 99.921 % correctly rounded; 32f 0.56299 ulp, 99.875 % correctly
  *           rounded.
  * Source:   as the sine.
  * @{ */
@@ -519,7 +517,7 @@ int32_t daksSinCos_32f_A24(const float* src, float* dst1, float* dst2, int32_t l
  *
  * Domain:   finite numbers. Infinities are DAKVM_STATUS_DOMAIN, the result NaN. No number is a pole:
  *           next to one results are large and finite. Zeros keep their sign.
- * Accuracy: 64f 0.52257 ulp, 99.903 % correctly rounded; 32f 0.93496 ulp, 94.904 % correctly
+ * Accuracy: 64f 0.52257 ulp, 99.903 % correctly rounded; 32f 0.93559 ulp, 98.537 % correctly
  *           rounded.
  * Source:   T. J. Dekker, Numer. Math. 18 (1971) 224-242, for sums in two parts; M. H. Payne and
  *           R. N. Hanek as the sine.
