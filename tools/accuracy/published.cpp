@@ -199,11 +199,13 @@ void verify_group(const std::vector<const Function*>& group, const Json& records
       complain(good, group[g]->name,
                std::string(what) + ": error " + text_of(t.worst.ulp) + " at " +
                    argument_text(*group[g], t.worst) + ", published is less");
-    // Not more of them misrounded than published, by five standard deviations of the slice.
+    // Not more of them misrounded than published, by five standard deviations of the slice. Of all
+    // floats, misrounded ones need not be spread evenly: only that there are none carries over.
     const double count = static_cast<double>(t.results),
                  share = figures["misrounded"].get<double>() / figures["results"].get<double>(),
                  most = share * count + 5 * std::sqrt(share * count) + (share > 0 ? 3 : 0);
-    if (static_cast<double>(t.misrounded()) > most)
+    const bool even = !figures.value("exhaustive", false) || share == 0;
+    if (even && static_cast<double>(t.misrounded()) > most)
       complain(
           good, group[g]->name,
           std::string(what) + ": " + percent_text(t) + " % correctly rounded, published is more");
