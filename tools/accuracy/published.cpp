@@ -418,8 +418,9 @@ std::string page(const Json& records) {
       "searches found (`worst.inc`). The bound is what the tests hold the library to\n"
       "(`tests/accuracy/limits.inc`). Statuses and flags are checked for every element. Functions "
       "that\n"
-      "are not listed returned the bits, statuses and flags of a listed one of the same type\n"
-      "everywhere: `same_as` in accuracy.json.\n";
+      "are not listed returned the bits, statuses and flags of a listed one of the same type "
+      "wherever\n"
+      "they were compared (of all floats, on one block of 2^14 in 16): `same_as` in accuracy.json.\n";
   std::string family;
   for (const Json& r : records) {
     if (!r["same_as"].is_null()) continue;
