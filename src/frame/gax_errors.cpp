@@ -6,7 +6,7 @@
 
 using dakvm::ErrorContext;
 using dakvm::Status;
-using dakvm::x87::Ext;
+using dakvm::x87::load;
 using dakvm::x87::narrow;
 using dakvm::x87::opaque;
 
@@ -28,8 +28,26 @@ uint32_t append(const char* text, uint32_t limit, char* buffer, uint32_t positio
   return position;
 }
 
-// The store is the operation that can overflow or underflow: an Ext holds every product of doubles.
-void raise_by_storing(Ext result) { opaque(narrow<double>(result)); }
+// Exception flags of the x87 unit.
+constexpr uint16_t invalid = 0x01, divide_by_zero = 0x04, overflow = 0x08, underflow = 0x10,
+                   inexact = 0x20;
+
+// Flags are sticky: an operation whose flags are set, and whose exceptions are masked, would change
+// nothing. Mostly the element's own result has raised them, and one more such operation takes some
+// 500 cycles.
+bool are_set(uint16_t flags) {
+  uint16_t status, control;
+  asm volatile("fnstsw %0" : "=m"(status));
+  asm volatile("fnstcw %0" : "=m"(control));
+  return (status & control & flags) == flags;
+}
+
+// The operation comes with the store, which is what can overflow or underflow: an Ext holds every
+// product of doubles.
+template <class Operation>
+void raise(uint16_t flags, Operation&& operation) {
+  if (!are_set(flags)) opaque(narrow<double>(operation()));
+}
 
 void notify(int32_t code, int32_t index, const char* name) {
   ErrorContext context;
@@ -55,13 +73,13 @@ uint32_t _gaxCreateFuncNameStr(const char* prefix, const char* name, const char*
 void _gaxStdErrorHandlerExcept(const ErrorContext* context) {
   switch (static_cast<Status>(context->code)) {
     case Status::domain:
-      return raise_by_storing(Ext{opaque(zero)} / opaque(zero));
+      return raise(invalid, [] { return load(&zero) / load(&zero); });
     case Status::singularity:
-      return raise_by_storing(Ext{opaque(one)} / opaque(zero));
+      return raise(divide_by_zero, [] { return load(&one) / load(&zero); });
     case Status::overflow:
-      return raise_by_storing(Ext{opaque(largest)} * opaque(largest));
+      return raise(overflow | inexact, [] { return load(&largest) * load(&largest); });
     case Status::underflow:
-      return raise_by_storing(Ext{opaque(least)} * opaque(least));
+      return raise(underflow | inexact, [] { return load(&least) * load(&least); });
     default:
       return;
   }

@@ -67,6 +67,10 @@ struct Bits<float> {
   DAKVM_INLINE uint32_t lead() const { return word; }
 };
 
+// Zero or subnormal once it is a double; no float but zero is.
+DAKVM_INLINE bool is_below_normal_doubles(Bits<double> x) { return x.exponent() == 0; }
+DAKVM_INLINE bool is_below_normal_doubles(Bits<float> x) { return x.is_zero(); }
+
 // |x| as a double, for normal x.
 DAKVM_INLINE Bits<double> widened_magnitude(Bits<double> x) { return {x.low, x.magnitude()}; }
 DAKVM_INLINE Bits<double> widened_magnitude(Bits<float> x) {
@@ -110,6 +114,16 @@ DAKVM_INLINE void put_magnitude(double& number, Bits<double> x) {
   put_words(number, x.magnitude(), x.low);
 }
 DAKVM_INLINE void put_magnitude(float& number, Bits<float> x) { put_word(number, x.magnitude()); }
+
+// A magnitude with the sign of x, for results that are rounded before they are signed. A subnormal
+// one never passes through a register, which would take hundreds of cycles.
+DAKVM_INLINE void put_signed(double& number, double magnitude, Bits<double> x) {
+  const auto bits = Bits<double>::read(&magnitude);
+  put_words(number, bits.high | (x.high & 0x80000000), bits.low);
+}
+DAKVM_INLINE void put_signed(float& number, float magnitude, Bits<float> x) {
+  put_word(number, Bits<float>::read(&magnitude).word | (x.word & 0x80000000));
+}
 
 // 2^exponent with the sign of x: the factor that gives an odd function's result its sign.
 DAKVM_INLINE void put_signed_power(double& number, Bits<double> x, int32_t exponent) {

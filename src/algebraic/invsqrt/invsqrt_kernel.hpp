@@ -114,7 +114,7 @@ struct Kernel {
       return Status::singularity;
     }
     if (bits.is_negative()) {
-      *dst = narrow<T>(opaque(t.zero) / Ext{opaque(t.zero)});
+      *dst = narrow<T>(load(&t.zero) / load(&t.zero));
       return Status::domain;
     }
     // Subnormal: raised to a normal double, also from a float.

@@ -1,15 +1,15 @@
 // sqrt(x) for one element; every grade and both types share this file.
 //
-// Method     x = v 2^(2E), v = 2^p m in [1, 4) with m the mantissa and p the parity of the
-// exponent.
+// Method     x = v 2^(2E), v = 2^p m in [1, 4) with m the mantissa and p the parity of
+//            the exponent.
 //            With t the table's 1/sqrt(v), h = t/2 and y = t v, three coupled steps
 //                r = 1/2 - y h,  y <- y + r y,  h <- h + r h
 //            take y to sqrt(v) and h to 1/(2 sqrt(v)); the result is (y + h d) 2^E with the
 //            residual d = v - y^2.
 // Exactness  v is exact: the product with 2^p is formed in the exponent field. Veltkamp splitting
-// gives y = hi + lo with 26 bits in hi and at most 38 in
-//            lo, so hi - as c - (c - y), where the second difference is rounded - and lo are
-//            exact as they stand in the register, and so are hi hi and v - hi hi.
+//            gives y = hi + lo with 26 bits in hi and at most 38 in lo, so hi - as c - (c - y),
+//            where the second difference is rounded - and lo are exact as they stand in the
+//            register, and so are hi hi and v - hi hi.
 // Error      seed 2^-8.9, then 2^-17.2, 2^-33.8 and about 2^-63 (registers); the correction leaves
 //            2^-64, one rounding of 64 bits before the store: 0.50024 ulp in double precision.
 // Special    NaN, infinities, zeros, negative numbers, subnormal numbers: apply.
@@ -97,7 +97,7 @@ struct Kernel {
       return Status::ok;
     }
     if (x.is_negative()) {
-      *dst = narrow<T>(opaque(t.zero) / Ext{opaque(t.zero)});
+      *dst = narrow<T>(load(&t.zero) / load(&t.zero));
       return Status::domain;
     }
     // Subnormal: raised to a normal double, also from a float.

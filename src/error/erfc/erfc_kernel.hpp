@@ -253,7 +253,7 @@ struct Kernel {
     } else if (x <= t.two_from) {
       *dst = narrow<T>(t.two - Ext{opaque(t.least)});
     } else if (x >= t.underflow) {
-      *dst = narrow<T>(Ext{opaque(t.least)} * opaque(t.least));
+      *dst = narrow<T>(load(&t.least) * load(&t.least));
       return Status::underflow;
     } else {
       Element element;

@@ -145,11 +145,11 @@ struct Kernel {
       return Status::ok;
     }
     if (x > t.overflow) {
-      *dst = narrow<T>(Ext{opaque(t.largest)} * opaque(t.largest));
+      *dst = narrow<T>(load(&t.largest) * load(&t.largest));
       return Status::overflow;
     }
     if (x < t.underflow) {
-      *dst = narrow<T>(Ext{opaque(t.least)} * opaque(t.least));
+      *dst = narrow<T>(load(&t.least) * load(&t.least));
       return Status::underflow;
     }
     *dst = narrow<T>(near_the_bounds(t, src, x < t.subnormal));

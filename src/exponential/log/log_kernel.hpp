@@ -219,20 +219,22 @@ DAKVM_INLINE Status settle_special(const Table& t, const T* src, T* dst, Compute
     *dst = narrow<T>(x * x);
     return Status::ok;
   }
-  double x = round_to_double(*src);
-  int32_t raised = 0;
-  if (Bits<double>::read(&x).exponent() == 0) {
-    x = round_to_double(Ext{x} * t.raise);
-    raised = 60;
-  }
-  const auto positive = Bits<double>::read(&x);
-  if (positive.is_zero()) {
-    *dst = narrow<T>(-Ext{opaque(t.one)} / opaque(t.zero));
+  if (bits.is_zero()) {
+    *dst = narrow<T>(-load(&t.one) / load(&t.zero));
     return Status::singularity;
   }
-  if (positive.is_negative()) {
-    *dst = narrow<T>(Ext{opaque(t.zero)} / opaque(t.zero));
+  if (bits.is_negative()) {
+    *dst = narrow<T>(load(&t.zero) / load(&t.zero));
     return Status::domain;
+  }
+  // A subnormal double is loaded once: that takes hundreds of cycles.
+  double x;
+  int32_t raised = 0;
+  if (is_below_normal_doubles(bits)) {
+    x = round_to_double(Ext{*src} * t.raise);
+    raised = 60;
+  } else {
+    x = *src;
   }
   *dst = narrow<T>(compute(x, raised));
   return Status::ok;

@@ -102,7 +102,7 @@ DAKVM_INLINE Status pow_scalar(const Table& t, const T* x, const T* y, T* z, Gen
     return give((__builtin_fabsl(*x) + __builtin_fabsl(*y)) * sgn);
   }
   if (xb.is_negative() && kind == Integer::no)
-    return give(Ext{opaque(t.zero)} / opaque(t.zero), Status::domain);
+    return give(load(&t.zero) / load(&t.zero), Status::domain);
   if (unit) return give(sgn);
   return give(general(negative));
 }

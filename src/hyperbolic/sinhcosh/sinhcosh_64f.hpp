@@ -316,7 +316,7 @@ struct SinhKernel {
       if constexpr (std::is_same_v<Table, SinhHighTable>)
         *dst = narrow<double>(opaque(t.largest) * x);
       else
-        store(bits, Ext{opaque(t.largest)} * opaque(t.largest), dst);
+        store(bits, load(&t.largest) * load(&t.largest), dst);
       return Status::overflow;
     }
     if (a >= t.reduction.single) {
@@ -361,7 +361,7 @@ struct CoshKernel {
       return Status::ok;
     }
     if (a >= t.reduction.overflow) {
-      *dst = narrow<double>(Ext{opaque(t.largest)} * opaque(t.largest));
+      *dst = narrow<double>(load(&t.largest) * load(&t.largest));
       return Status::overflow;
     }
     if (a >= t.reduction.single) {

@@ -109,17 +109,18 @@ struct Kernel {
     const auto bits = Bits<T>::read(src);
     const Ext x = load(src);
     const Ext sign = t.sign[bits.is_negative()];
-    *dst = narrow<T>(bits.is_nan() ? x + x : bits.is_infinity() ? sign : finite(t, src, x, sign));
+    *dst = narrow<T>(bits.is_nan()        ? x + x
+                     : bits.is_infinity() ? sign
+                                          : finite(t, bits, src, x, sign));
     return Status::ok;
   }
 
  private:
-  static Ext finite(const Table& t, const T* src, Ext x, Ext sign) {
+  static Ext finite(const Table& t, Bits<T> bits, const T* src, Ext x, Ext sign) {
     const Ext a = __builtin_fabsl(x);
-    const double wide = narrow<double>(x);
-    const auto bits = Bits<double>::read(&wide);
-    if (bits.exponent() == 0) return round_to_double(x * opaque(t.least)) + x;
-    if (bits.exponent() <= 969) return (Ext{opaque(t.sign[0])} + opaque(t.least)) * x;
+    if (is_below_normal_doubles(bits)) return round_to_double(x * opaque(t.least)) + x;
+    if (bits.exponent() <= Bits<T>::bias - 54)
+      return (Ext{opaque(t.sign[0])} + opaque(t.least)) * x;
     if (a < t.first) return near_zero(t, a) * sign;
     if (a >= t.saturation) return (Ext{opaque(t.sign[0])} + opaque(t.least)) * sign;
     Element element;

@@ -9,8 +9,8 @@
 //            S1, S2, L0, L1 and L2 are sums of two doubles.
 //            Each difference is c - (hi + lo): V = c_hi - hi rounded to double, then
 //                ((c_hi - V) - hi) + (c_lo - lo) + V,  only the last sum being rounded for good.
-// Exactness  hi is a double, so (c_hi - V) - hi is exact. w is exact. Root and polynomial are cut to
-//            26 bits, so that hi of P is their exact product.
+// Exactness  hi is a double, so (c_hi - V) - hi is exact. w is exact. Root and polynomial are cut
+//            to 26 bits, so that hi of P is their exact product.
 // Error      Small: sums of first order are at most 0.05 x and kept in 64 bits, 2^-67; polynomial
 //            2^-63.6. Large: tails 2^-69, polynomial 2^-63.1 of P, which is 2^-62.1 of the
 //            difference next to y = 1/2, 0.0009 ulp. Then one rounding of 64 bits before the store:
@@ -312,15 +312,10 @@ struct AsinKernel {
     } else if (y > t.tiny) {
       *dst = narrow<T>(run<SmallChain>(t, src));
     } else {
-      Signed<T> result;
-      result.keep_sign(src);
       // The square raises underflow: opaque keeps it out of the other case.
-      if (y < t.least_normal)
-        result.magnitude = narrow<T>(y + round_to_double(y * opaque(y)));
-      else
-        result.magnitude = narrow<T>(round_to_double(t.one + y) * y);
-      settle(&result);
-      *dst = narrow<T>(result.value());
+      const Ext magnitude =
+          y < t.least_normal ? y + round_to_double(y * opaque(y)) : round_to_double(t.one + y) * y;
+      put_signed(*dst, rounded_to<T>(magnitude), bits);
     }
     return Status::ok;
   }

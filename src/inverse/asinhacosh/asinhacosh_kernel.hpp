@@ -143,20 +143,16 @@ struct AsinhKernel {
       *dst = narrow<T>(x + x);
       return Status::ok;
     }
-    T sign;
-    put_signed_power(sign, bits, 0);
     const Ext y = __builtin_fabsl(x);
-    const T magnitude =
-        rounded_to<T>(y < t.small ? small_arsinh(t, y) : Element::ln_of_twice(t, y));
-    *dst = narrow<T>(Ext{magnitude} * sign);
+    const Ext magnitude = y < t.small ? small_arsinh(t, bits, y) : Element::ln_of_twice(t, y);
+    put_signed(*dst, rounded_to<T>(magnitude), bits);
     return Status::ok;
   }
 
  private:
-  DAKVM_INLINE static Ext small_arsinh(const AsinhTable& t, Ext y) {
+  DAKVM_INLINE static Ext small_arsinh(const AsinhTable& t, Bits<T> x, Ext y) {
     if (y < t.tiny) {
-      const double wide = round_to_double(y);
-      if (Bits<double>::read(&wide).exponent() == 0) return y + round_to_double(y * y);
+      if (is_below_normal_doubles(x)) return y + round_to_double(y * y);
       return y * (t.one + y);
     }
     const Ext s = y * y;
@@ -214,7 +210,7 @@ struct AcoshKernel {
       return Status::ok;
     }
     if (x < t.one) {
-      *dst = narrow<T>(Ext{opaque(t.zero)} / opaque(t.zero));
+      *dst = narrow<T>(load(&t.zero) / load(&t.zero));
       return Status::domain;
     }
     *dst = narrow<T>(x == t.one       ? Ext{t.zero}

@@ -103,9 +103,7 @@ struct Kernel64 {
       *dst = narrow<double>(load(src) + load(src));
       return Status::ok;
     }
-    const double result = round_to_double(magnitude_of(t, bits));
-    put_words(*dst, Bits<double>::read(&result).high | (bits.high & 0x80000000),
-              Bits<double>::read(&result).low);
+    put_signed(*dst, round_to_double(magnitude_of(t, bits)), bits);
     return Status::ok;
   }
 

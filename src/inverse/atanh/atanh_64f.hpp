@@ -98,15 +98,14 @@ struct Kernel {
     }
     const Ext y = __builtin_fabsl(x);
     if (y < t.small) {
-      const double magnitude = round_to_double(small_artanh(t, bits, y));
-      *dst = narrow<double>(bits.is_negative() ? -Ext{magnitude} : Ext{magnitude});
+      put_signed(*dst, round_to_double(small_artanh(t, bits, y)), bits);
       return Status::ok;
     }
     if (y == t.one) {
-      *dst = narrow<double>(x / opaque(t.zero));
+      *dst = narrow<double>(x / load(&t.zero));
       return Status::singularity;
     }
-    *dst = narrow<double>(Ext{opaque(t.zero)} / opaque(t.zero));
+    *dst = narrow<double>(load(&t.zero) / load(&t.zero));
     return Status::domain;
   }
 
