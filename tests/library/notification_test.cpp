@@ -10,7 +10,7 @@
 namespace dakvm::test {
 namespace {
 
-TEST(Notification, RaisesTheFlagOfItsCodeAlone) {
+TEST(Notification, RaisesTheFlagsOfItsCodeBesideThoseThatAreSet) {
   const std::pair<int32_t, int> expected[] = {{DAKVM_STATUS_DOMAIN, invalid},
                                               {DAKVM_STATUS_SINGULARITY, divide_by_zero},
                                               {DAKVM_STATUS_OVERFLOW, overflow | inexact},
@@ -26,6 +26,11 @@ TEST(Notification, RaisesTheFlagOfItsCodeAlone) {
     clear_flags();
     gaxsError(code, 3, nullptr, nullptr, nullptr, nullptr, "any name at all");
     EXPECT_EQ(raised_flags(), flags);
+    for (uint16_t before = 0; before <= ieee_flags; ++before) {
+      set_flags(before & ieee_flags);
+      gaxdError(code, 3, nullptr, nullptr, nullptr, nullptr, "");
+      EXPECT_EQ(raised_flags(), (before & ieee_flags) | flags) << before;
+    }
     EXPECT_TRUE(stack_is_empty());
   }
 }

@@ -22,6 +22,15 @@ inline uint16_t raised_flags() {
   return word & ieee_flags;
 }
 
+inline void set_flags(uint16_t flags) {
+  struct {
+    uint32_t control, status, tag, rest[4];
+  } environment;
+  asm volatile("fnstenv %0" : "=m"(environment) : : "memory");
+  environment.status = (environment.status & ~uint32_t{ieee_flags}) | flags;
+  asm volatile("fldenv %0" : : "m"(environment) : "memory");
+}
+
 inline uint16_t control_word() {
   uint16_t word;
   asm volatile("fnstcw %0" : "=m"(word));
