@@ -12,7 +12,7 @@
 //            b is exact, because a is a power of two and b a multiple of 1/2; in the last row it is
 //            off by 2^-54, where c1 is 2^-44.
 // Error      The polynomials 2^-63.8 or less, in [4, 5] 2^-59.9; tails 2^-80; the rounding of 64
-//            bits before the store. Largest seen 0.5088 ulp in [4, 5], 0.5007 ulp elsewhere.
+//            bits before the store. Largest seen 0.5089 ulp in [4, 5], 0.5007 ulp elsewhere.
 // Special    Zeros, |x| < 2^-40, infinities, NaN: apply. Subnormal results round once.
 // Source     T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the products in two parts. Rows:
 //            tools/gentables/erf.cpp.

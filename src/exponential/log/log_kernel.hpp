@@ -16,8 +16,8 @@
 //            fractional bits, k Q has 15, so a = mh R - 1 and a = mh k Q - k are exact. So is hi +
 //            a: E ln2_hi and the rows' hi are multiples of 2^-42.
 // Error      Table: polynomial 2^-61.3 of the result near one, tails 2^-64, and one rounding of 64
-//            bits before the store. Largest seen: ln 0.5008 ulp, log10 0.5041 ulp. Series: g and
-//            s g are rounded to double. Largest seen: ln 1.137 ulp, log10 0.933 ulp, between 0.69
+//            bits before the store. Largest seen: ln 0.5009 ulp, log10 0.5045 ulp. Series: g and
+//            s g are rounded to double. Largest seen: ln 1.151 ulp, log10 0.933 ulp, between 0.69
 //            and 0.76, where h cancels half of E ln2.
 // Special    Zeros, subnormal and negative numbers, infinities, NaN; with a table also arguments
 //            near one: apply.

@@ -14,8 +14,8 @@
 //            the sum is rounded to 64 bits before the store.
 //            cosh A53: the bracket, up to 2^-7.5 of S, is rounded to double.
 //            A50: polynomial 2^-53; cosh, and both from 31 ln2 on, take the table's rounding.
-//            Largest seen, up to 31 ln2 and beyond: sinh A53 0.5003, 0.5027 ulp; A50 0.534, 1.008;
-//            cosh A53 0.5039, 0.5027; A50 1.046, 1.008.
+//            Largest seen, up to 31 ln2 and beyond: sinh A53 0.5003, 0.5028 ulp; A50 0.534, 1.008;
+//            cosh A53 0.5039, 0.5027; A50 1.049, 1.008.
 // Special    NaN, infinities, tiny arguments, overflow; sinh near zero, where D cancels, and both
 //            where e^-a is negligible: apply.
 // Source     P. T. P. Tang, ACM TOMS 15 (1989) 144-157, for the exponential; T. J. Dekker, Numer.
