@@ -13,8 +13,8 @@
 // Exactness  |K| < 2^17 and |K2|/16 < 2^13 + 1; the pieces A1, A2 have 35 bits, B1, B2 39: their
 //            products are exact. s_t has 35 bits, s_t Rm 53. In the pole's rows T_hi is a multiple
 //            of 2^-40, T_hi - Rm exact. S1 and S2 keep their errors.
-// Error      T^2 as a double times r: 0.0225 ulp; the tail's roundings, 0.002 to 0.003 ulp; then the
-//            sum's. Largest seen 0.5254 ulp.
+// Error      T^2 as a double times r: 0.0225 ulp; the tail's roundings, 0.002 to 0.003 ulp; then
+//            the sum's. Largest seen 0.5254 ulp.
 // Special    NaN, infinities, |x| < 2^-252: apply.
 // Source     T. J. Dekker, Numer. Math. 18 (1971) 224-242, for the sums in two parts.
 //            Table: tools/gentables/tan.cpp.
