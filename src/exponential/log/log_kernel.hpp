@@ -234,7 +234,7 @@ DAKVM_INLINE Status settle_special(const Table& t, const T* src, T* dst, Compute
     x = round_to_double(Ext{*src} * t.raise);
     raised = 60;
   } else {
-    x = *src;
+    x = round_to_double(*src);
   }
   *dst = narrow<T>(compute(x, raised));
   return Status::ok;
