@@ -3,7 +3,8 @@
 # With --full also everything without optimisation, with AddressSanitizer and
 # UndefinedBehaviorSanitizer, and with ThreadSanitizer; the golden hashes from every compiler and
 # level, and on an emulated processor without SSE (scripts/golden-matrix.sh); five minutes of fuzzing
-# (tests/fuzz/run.sh); and the packages in fresh systems (tests/install/chroot.sh).
+# (tests/fuzz/run.sh); and the packages in fresh systems (tests/install/chroot.sh): about an hour on
+# two cores.
 set -euo pipefail
 cd "$(dirname "$0")"
 
