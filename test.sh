@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the library for 32 and for 64 bits, and runs all tests of both.
-# With --full also everything without optimisation, with AddressSanitizer and
+# With --full also the manual; everything without optimisation, with AddressSanitizer and
 # UndefinedBehaviorSanitizer, and with ThreadSanitizer; the golden hashes from every compiler and
 # level, and on an emulated processor without SSE (scripts/golden-matrix.sh); five minutes of fuzzing
 # (tests/fuzz/run.sh); and the packages in fresh systems (tests/install/chroot.sh): about an hour on
@@ -14,7 +14,7 @@ full=${1:-}
 
 scripts/setup.sh "$([[ -z $full ]] && echo test || echo full)"
 presets=(release x86-64)
-[[ -z $full ]] || presets+=(debug asan tsan)
+[[ -z $full ]] || presets+=(manual debug asan tsan)
 for preset in "${presets[@]}"; do
   cmake --preset "$preset"
   cmake --build --preset "$preset" -j "$(nproc)"
